@@ -1,0 +1,17 @@
+#include "CliCommands.h"
+
+namespace brevaro::cli {
+
+const std::vector<CliCommand>& cliCommands() {
+    static const std::vector<CliCommand> commands = {
+        {"list", "list", listCommand},
+        {"show", "show -c COMPANY [-p PROGRAM] --json", showCommand},
+        {"new-company", "new-company NAME", newCompanyCommand},
+        {"new-program", "new-program -c COMPANY NAME", newProgramCommand},
+        {"delete", "delete -c COMPANY [-p PROGRAM]", deleteCommand},
+        {"set", "set -c COMPANY [-p PROGRAM] [--file-info PATH] FIELD=VALUE ...", setCommand},
+    };
+    return commands;
+}
+
+} // namespace brevaro::cli

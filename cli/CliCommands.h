@@ -1,0 +1,28 @@
+#pragma once
+
+#include "CliContext.h"
+
+#include <functional>
+
+namespace brevaro::cli {
+
+struct CliCommand {
+    const char* name;
+    const char* usage;
+    std::function<int(CliContext&, const QStringList&)> run;
+};
+
+// Every command of brevaro-cli, in the order --help lists them.
+const std::vector<CliCommand>& cliCommands();
+
+} // namespace brevaro::cli
+
+namespace brevaro::cli {
+// Record commands.
+int listCommand(CliContext& ctx, const QStringList& words);
+int showCommand(CliContext& ctx, const QStringList& words);
+int newCompanyCommand(CliContext& ctx, const QStringList& words);
+int newProgramCommand(CliContext& ctx, const QStringList& words);
+int deleteCommand(CliContext& ctx, const QStringList& words);
+int setCommand(CliContext& ctx, const QStringList& words);
+} // namespace brevaro::cli

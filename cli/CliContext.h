@@ -1,0 +1,42 @@
+#pragma once
+
+#include "CliArgs.h"
+#include "store/HomeLock.h"
+#include "store/RecordStore.h"
+
+#include <QIODevice>
+
+namespace brevaro::cli {
+
+// What a command works with: the home's records, the streams, and the home lock.
+class CliContext {
+public:
+    CliContext(AppHome home, QIODevice& in, QIODevice& out);
+
+    RecordStore& store() { return m_store; }
+    const AppHome& home() const { return m_store.home(); }
+    QIODevice& in() { return m_in; }
+
+    // Takes the home lock and completes an interrupted deletion; every command that writes
+    // calls it before touching a file.
+    void lockForWriting();
+    // Completes an interrupted deletion (taking the lock only then) before anything is read.
+    void prepareForReading();
+
+    // A company or program by 1-based number or exact name; bad input when there is none.
+    int company(const QString& which);
+    int program(int company, const QString& which);
+    // The CompanyID stored in company n, which names its program file.
+    int companyId(int company);
+
+    void print(const QString& text) { m_out.write(text.toUtf8()); }
+    void printBytes(const QByteArray& bytes) { m_out.write(bytes); }
+
+private:
+    RecordStore m_store;
+    HomeLock m_lock;
+    QIODevice& m_in;
+    QIODevice& m_out;
+};
+
+} // namespace brevaro::cli

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace brevaro {
+
+// Removes leading and trailing blanks (U+0020 only; tabs and line breaks stay).
+QString trimBlanks(QStringView text);
+
+// Splits text at every occurrence of separator; n separators give n + 1 fields.
+QStringList splitFields(const QString& text, QStringView separator);
+
+// 1-based position of the first occurrence of pattern at or after position start, 0 when
+// there is none (or the pattern is empty).
+qsizetype findFrom(qsizetype start, QStringView text, QStringView pattern);
+
+// text with every occurrence of pattern removed.
+QString removeAll(QString text, QStringView pattern);
+
+} // namespace brevaro

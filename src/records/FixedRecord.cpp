@@ -1,0 +1,89 @@
+#include "records/FixedRecord.h"
+
+#include "platform/StringHelpers.h"
+#include "records/Win1252.h"
+
+#include <QtEndian>
+
+namespace brevaro {
+
+int RecordLayout::indexOf(QStringView fieldName) const {
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        if (fieldName == QLatin1String(fields[i].name))
+            return static_cast<int>(i);
+    return -1;
+}
+
+FixedRecord::FixedRecord(const RecordLayout& layout)
+    : m_layout(&layout)
+    , m_bytes(emptyBytes(layout)) {}
+
+QByteArray FixedRecord::emptyBytes(const RecordLayout& layout) {
+    QByteArray bytes(layout.length, '\0');
+    for (const auto& f : layout.fields)
+        if (f.isText())
+            bytes.replace(f.offset, f.size(), QByteArray(f.size(), ' '));
+    return bytes;
+}
+
+void FixedRecord::setBytes(const QByteArray& bytes) {
+    if (bytes.size() >= m_layout->length) {
+        m_bytes = bytes.left(m_layout->length);
+        return;
+    }
+    m_bytes = emptyBytes(*m_layout);
+    m_bytes.replace(0, bytes.size(), bytes);
+}
+
+const FieldSpec& FixedRecord::spec(int field) const {
+    Q_ASSERT(field >= 0 && field < static_cast<int>(m_layout->fields.size()));
+    return m_layout->fields[static_cast<std::size_t>(field)];
+}
+
+QString FixedRecord::rawText(int field, int index) const {
+    const FieldSpec& f = spec(field);
+    Q_ASSERT(f.isText() && index >= 0 && index < f.count);
+    return fromWin1252(m_bytes.constData() + f.entryOffset(index), f.width);
+}
+
+QString FixedRecord::text(int field, int index) const {
+    return trimBlanks(rawText(field, index));
+}
+
+void FixedRecord::setText(int field, QStringView value, int index) {
+    const FieldSpec& f = spec(field);
+    Q_ASSERT(f.isText() && index >= 0 && index < f.count);
+    char* dst = m_bytes.data() + f.entryOffset(index);
+    const qsizetype n = std::min<qsizetype>(value.size(), f.width);
+    for (qsizetype i = 0; i < n; ++i)
+        dst[i] = toWin1252Char(value[i]);
+    for (qsizetype i = n; i < f.width; ++i)
+        dst[i] = ' ';
+}
+
+QString FixedRecord::trimText(int field, int index) {
+    QString value = text(field, index);
+    setText(field, value, index);
+    return value;
+}
+
+int FixedRecord::number(int field, int index) const {
+    const FieldSpec& f = spec(field);
+    Q_ASSERT(!f.isText() && index >= 0 && index < f.count);
+    const char* src = m_bytes.constData() + f.entryOffset(index);
+    if (f.type == FieldType::Int32)
+        return qFromLittleEndian<qint32>(src);
+    return qFromLittleEndian<qint16>(src);
+}
+
+void FixedRecord::setNumber(int field, int value, int index) {
+    const FieldSpec& f = spec(field);
+    Q_ASSERT(!f.isText() && index >= 0 && index < f.count);
+    char* dst = m_bytes.data() + f.entryOffset(index);
+    if (f.type == FieldType::Int32)
+        qToLittleEndian<qint32>(value, dst);
+    else
+        qToLittleEndian<qint16>(static_cast<qint16>(value), dst);
+}
+
+} // namespace brevaro

@@ -1,0 +1,77 @@
+#include "records/RecordJson.h"
+
+#include <QJsonArray>
+#include <QRegularExpression>
+
+namespace brevaro {
+
+QJsonObject recordToJson(const FixedRecord& record) {
+    QJsonObject object;
+    const auto& fields = record.layout().fields;
+    for (int i = 0; i < static_cast<int>(fields.size()); ++i) {
+        const FieldSpec& f = fields[static_cast<std::size_t>(i)];
+        auto value = [&](int entry) -> QJsonValue {
+            return f.isText() ? QJsonValue(record.text(i, entry))
+                              : QJsonValue(record.number(i, entry));
+        };
+        if (f.count == 1) {
+            object.insert(QLatin1String(f.name), value(0));
+        } else {
+            QJsonArray array;
+            for (int e = 0; e < f.count; ++e)
+                array.append(value(e));
+            object.insert(QLatin1String(f.name), array);
+        }
+    }
+    return object;
+}
+
+bool FieldAssignment::parse(const QString& text, FieldAssignment* out) {
+    static const QRegularExpression pattern(
+        QStringLiteral("^([A-Za-z0-9_]+)(?:\\[(\\d+)\\])?=(.*)$"),
+        QRegularExpression::DotMatchesEverythingOption);
+    const auto match = pattern.match(text);
+    if (!match.hasMatch())
+        return false;
+    out->name = match.captured(1);
+    out->index =
+        match.hasCaptured(2) && !match.captured(2).isEmpty() ? match.captured(2).toInt() : -1;
+    out->value = match.captured(3);
+    return true;
+}
+
+bool applyAssignment(FixedRecord& record, const FieldAssignment& a, QString* message) {
+    const int field = record.layout().indexOf(a.name);
+    if (field < 0) {
+        *message = QStringLiteral("there is no field %1").arg(a.name);
+        return false;
+    }
+    const FieldSpec& f = record.layout().fields[static_cast<std::size_t>(field)];
+    if (f.count > 1 && a.index < 0) {
+        *message = QStringLiteral("%1 has %2 entries: write %1[i]=VALUE with i from 0 to %3")
+                       .arg(a.name)
+                       .arg(f.count)
+                       .arg(f.count - 1);
+        return false;
+    }
+    const int index = f.count > 1 ? a.index : 0;
+    if (index >= f.count || (f.count == 1 && a.index > 0)) {
+        *message = QStringLiteral("%1 has no entry %2").arg(a.name).arg(a.index);
+        return false;
+    }
+    if (f.isText()) {
+        record.setText(field, a.value, index);
+        return true;
+    }
+    bool ok = false;
+    const int number = a.value.trimmed().toInt(&ok);
+    const int limit = f.type == FieldType::Int16 ? 32767 : 2147483647;
+    if (!ok || number > limit || number < -limit - 1) {
+        *message = QStringLiteral("%1 takes a whole number, not \"%2\"").arg(a.name, a.value);
+        return false;
+    }
+    record.setNumber(field, number, index);
+    return true;
+}
+
+} // namespace brevaro

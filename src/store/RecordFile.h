@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <optional>
+#include <vector>
+
+namespace brevaro {
+
+// A file of fixed-length records without header, numbered from 1. Every change writes a
+// whole new file beside the old one and renames it over it, so a crash leaves the old or the
+// new file, never a torn record. A damaged file (a length that is not a multiple of the
+// record length) is read as far as it goes; a partial last record reads as blanks and zeros.
+class RecordFile {
+public:
+    RecordFile(QString path, QByteArray emptyRecord);
+
+    const QString& path() const { return m_path; }
+    int recordLength() const { return static_cast<int>(m_empty.size()); }
+    bool exists() const;
+
+    // Number of records: length / record length rounded to the nearest whole number, a half
+    // to the even neighbour; 0 for a missing file.
+    int count() const;
+    static int countFor(qint64 fileLength, int recordLength);
+
+    // Record n, or nothing when n is not a record of the file.
+    std::optional<QByteArray> read(int n) const;
+    // From every record, the bytes at [offset, offset + length): reads only those bytes.
+    std::vector<QByteArray> readSlices(int offset, int length) const;
+    std::vector<QByteArray> readAll() const;
+
+    // Writes record n in place; n = count() + 1 appends.
+    bool write(int n, const QByteArray& record);
+    bool append(const QByteArray& record) { return write(count() + 1, record); }
+    // Removes record n; the records after it move down by one.
+    bool remove(int n);
+    // Replaces the whole file with these records.
+    bool writeAll(const std::vector<QByteArray>& records);
+
+    const QString& errorString() const { return m_error; }
+
+private:
+    QByteArray normalised(const QByteArray& raw) const;
+    bool commit(const QByteArray& contents);
+
+    QString m_path;
+    QByteArray m_empty;
+    QString m_error;
+};
+
+} // namespace brevaro

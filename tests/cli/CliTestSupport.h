@@ -1,0 +1,26 @@
+#pragma once
+
+#include "CliRunner.h"
+#include "TestSupport.h"
+
+#include <QBuffer>
+
+namespace brevaro::test {
+
+// Runs brevaro-cli in this process on the given home.
+inline CliResult runCliIn(const TempHome& t, QStringList args, const QByteArray& input = {}) {
+    args.prepend(t.path());
+    args.prepend(QStringLiteral("--home"));
+    QByteArray inBytes = input;
+    QBuffer in(&inBytes), out, err;
+    in.open(QIODevice::ReadOnly);
+    out.open(QIODevice::WriteOnly);
+    err.open(QIODevice::WriteOnly);
+    CliResult r;
+    r.status = cli::runCli(args, QString(), in, out, err);
+    r.out = out.data();
+    r.err = QString::fromUtf8(err.data());
+    return r;
+}
+
+} // namespace brevaro::test

@@ -1,0 +1,150 @@
+#include "records/CompanyRecord.h"
+#include "records/ProgramRecord.h"
+#include "records/Win1252.h"
+
+#include <gtest/gtest.h>
+
+using namespace brevaro;
+
+namespace {
+
+// Puts text at an offset, blank-padded, the way another program would write it from the table.
+void put(QByteArray& bytes, int offset, int width, const char* text) {
+    QByteArray field(text);
+    field = field.leftJustified(width, ' ', true);
+    bytes.replace(offset, width, field);
+}
+
+void put16(QByteArray& bytes, int offset, int value) {
+    bytes[offset] = static_cast<char>(value & 0xFF);
+    bytes[offset + 1] = static_cast<char>((value >> 8) & 0xFF);
+}
+
+} // namespace
+
+TEST(RecordBytes, ProgramFlagsLandAtTheirOffsets) {
+    ProgramRecord p;
+    p.setNumber(ProgramField::OSSupported, -1, 1); // Win95
+    p.setNumber(ProgramField::IncludesJavaVM, 1);
+    p.setNumber(ProgramField::DescriptionActive, 1, 8);
+    p.setNumber(ProgramField::TPAActivated, 1);
+    const QByteArray& b = p.bytes();
+    ASSERT_EQ(b.size(), 32319);
+    EXPECT_EQ(static_cast<unsigned char>(b[142]), 0xFF);
+    EXPECT_EQ(static_cast<unsigned char>(b[143]), 0xFF);
+    EXPECT_EQ(b[140], 0);
+    EXPECT_EQ(b[975], 1);
+    EXPECT_EQ(b[976], 0);
+    EXPECT_EQ(b[981 + 16], 1);
+    EXPECT_EQ(b[32265], 1);
+    p.setNumber(ProgramField::IncludesJavaVM, 0);
+    EXPECT_EQ(p.bytes()[975], 0);
+}
+
+TEST(RecordBytes, ForeignBytesReadFieldByField) {
+    QByteArray c(842, ' ');
+    put16(c, 0, 7);
+    c[2] = c[3] = 0;
+    put(c, 4, 40, "Acme Tools");
+    put(c, 184, 30, "Germany");
+    put(c, 817, 25, "+49 30 1234");
+    CompanyRecord company;
+    company.setBytes(c);
+    EXPECT_EQ(company.number(CompanyField::CompanyID), 7);
+    EXPECT_EQ(company.text(CompanyField::CompanyName), QStringLiteral("Acme Tools"));
+    EXPECT_EQ(company.text(CompanyField::Country), QStringLiteral("Germany"));
+    EXPECT_EQ(company.text(CompanyField::FaxPhone), QStringLiteral("+49 30 1234"));
+
+    QByteArray p(32319, ' ');
+    // Numeric fields (offset, size) are zero; everything else starts blank.
+    const std::pair<int, int> numeric[] = {{0, 4},      {140, 54}, {194, 18}, {410, 2},
+                                           {422, 8},    {975, 6},  {981, 18}, {32228, 4},
+                                           {32257, 12}, {32267, 2}};
+    for (auto [offset, size] : numeric)
+        p.replace(offset, size, QByteArray(size, '\0'));
+    put(p, 4, 40, "Widget");
+    put(p, 999 + 128 * 2, 128, "french words");
+    put(p, 9576 + 2000 * 8, 2000, "russian long");
+    put(p, 29228, 3000, "licence");
+    put(p, 32294, 25, "Trialware");
+    put16(p, 140 + 2 * 26, -1);
+    put16(p, 422 + 2 * 3, -1);
+    ProgramRecord program;
+    program.setBytes(p);
+    EXPECT_EQ(program.text(ProgramField::ProgramName), QStringLiteral("Widget"));
+    EXPECT_EQ(program.text(ProgramField::Keywords, 2), QStringLiteral("french words"));
+    EXPECT_EQ(program.text(ProgramField::CharDesc2000, 8), QStringLiteral("russian long"));
+    EXPECT_EQ(program.text(ProgramField::EULA), QStringLiteral("licence"));
+    EXPECT_EQ(program.text(ProgramField::TrialLicenseType), QStringLiteral("Trialware"));
+    EXPECT_EQ(program.number(ProgramField::OSSupported, 26), -1);
+    EXPECT_EQ(program.number(ProgramField::OSSupported, 25), 0);
+    EXPECT_EQ(program.number(ProgramField::ExpireBasedOn, 3), -1);
+}
+
+TEST(RecordBytes, TextsAreCutOrBlankPadded) {
+    CompanyRecord c;
+    c.setText(CompanyField::CompanyName, QString(41, u'x'));
+    EXPECT_EQ(c.rawText(CompanyField::CompanyName), QString(40, u'x'));
+    c.setText(CompanyField::CompanyName, u"abc");
+    EXPECT_EQ(c.rawText(CompanyField::CompanyName), QStringLiteral("abc") + QString(37, u' '));
+    EXPECT_EQ(c.text(CompanyField::CompanyName), QStringLiteral("abc"));
+    // The next field is untouched by either assignment.
+    EXPECT_EQ(c.rawText(CompanyField::Address1), QString(30, u' '));
+
+    c.setText(CompanyField::Address1, u"  two blanks\tand tab ");
+    EXPECT_EQ(c.trimText(CompanyField::Address1), QStringLiteral("two blanks\tand tab"));
+    EXPECT_EQ(c.rawText(CompanyField::Address1).left(19), QStringLiteral("two blanks\tand tab "));
+}
+
+TEST(RecordBytes, Windows1252OnDisk) {
+    CompanyRecord c;
+    c.setText(CompanyField::CompanyName, QStringLiteral("Caf\u00e9 \u20ac \u0416"));
+    const QByteArray name = c.bytes().mid(4, 8);
+    EXPECT_EQ(name, QByteArray("Caf\xE9 \x80 ?"));
+    EXPECT_EQ(c.text(CompanyField::CompanyName), QStringLiteral("Caf\u00e9 \u20ac ?"));
+
+    // The undefined bytes survive a read and a write unchanged.
+    const QByteArray odd("\x81\x8D\x8F\x90\x9D", 5);
+    EXPECT_EQ(toWin1252(fromWin1252(odd)), odd);
+    for (int b = 0; b < 256; ++b) {
+        const QByteArray one(1, static_cast<char>(b));
+        EXPECT_EQ(toWin1252(fromWin1252(one)), one) << b;
+    }
+}
+
+TEST(RecordBytes, ClearingKeepsIdentityAndUnlistedFlags) {
+    ProgramRecord p;
+    p.setNumber(ProgramField::CompanyID, 12);
+    p.setNumber(ProgramField::OSSupported, -1, 26);
+    p.setNumber(ProgramField::OSSupported, -1, 3);
+    p.setNumber(ProgramField::LanguageSupported, -1, 8);
+    p.setNumber(ProgramField::MSNIs32Bit, 1);
+    p.setText(ProgramField::EULA, u"text");
+    p.setNumber(ProgramField::DescriptionActive, 1, 5);
+    p.clear(26, 9);
+    EXPECT_EQ(p.number(ProgramField::CompanyID), 12);
+    EXPECT_EQ(p.number(ProgramField::OSSupported, 26), -1);
+    EXPECT_EQ(p.number(ProgramField::OSSupported, 3), 0);
+    EXPECT_EQ(p.number(ProgramField::LanguageSupported, 8), 0);
+    EXPECT_EQ(p.number(ProgramField::MSNIs32Bit), 0);
+    EXPECT_EQ(p.text(ProgramField::EULA), QString());
+    EXPECT_EQ(p.number(ProgramField::DescriptionActive, 0), 1);
+    for (int i = 1; i < 9; ++i)
+        EXPECT_EQ(p.number(ProgramField::DescriptionActive, i), 0);
+
+    CompanyRecord c;
+    c.setNumber(CompanyField::CompanyID, 4);
+    c.setText(CompanyField::FaxPhone, u"123");
+    c.clear();
+    EXPECT_EQ(c.number(CompanyField::CompanyID), 4);
+    EXPECT_EQ(c.bytes().mid(4), QByteArray(838, ' '));
+}
+
+TEST(RecordBytes, ShortBufferCompletesWithBlanksAndZeros) {
+    ProgramRecord p;
+    p.setBytes(QByteArray("\x05\x00\x00\x00Half", 8));
+    EXPECT_EQ(p.number(ProgramField::CompanyID), 5);
+    EXPECT_EQ(p.text(ProgramField::ProgramName), QStringLiteral("Half"));
+    EXPECT_EQ(p.number(ProgramField::TPAMember), 0);
+    EXPECT_EQ(p.rawText(ProgramField::TrialLicenseType), QString(25, u' '));
+}

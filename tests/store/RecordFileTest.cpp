@@ -1,0 +1,100 @@
+#include "store/RecordFile.h"
+#include "TestSupport.h"
+
+#include <QDir>
+#include <gtest/gtest.h>
+
+using namespace brevaro;
+using namespace brevaro::test;
+
+namespace {
+
+// Records of 8 bytes: 4 blanks of text and a 4-byte number, as blanks and zeros when empty.
+QByteArray emptyRecord() {
+    return QByteArray("    \0\0\0\0", 8);
+}
+QByteArray rec(char c) {
+    return QByteArray(8, c);
+}
+
+} // namespace
+
+TEST(RecordFile, CountRoundsHalfToEven) {
+    EXPECT_EQ(RecordFile::countFor(0, 842), 0);
+    EXPECT_EQ(RecordFile::countFor(421, 842), 0);
+    EXPECT_EQ(RecordFile::countFor(422, 842), 1);
+    EXPECT_EQ(RecordFile::countFor(1263, 842), 2);
+    EXPECT_EQ(RecordFile::countFor(1684, 842), 2);
+    EXPECT_EQ(RecordFile::countFor(2105, 842), 2); // 2.5 rounds to 2
+    EXPECT_EQ(RecordFile::countFor(64638, 32319), 2);
+    TempHome t;
+    RecordFile missing(t.file(QStringLiteral("none.dta")), emptyRecord());
+    EXPECT_EQ(missing.count(), 0);
+    EXPECT_FALSE(missing.read(1).has_value());
+}
+
+TEST(RecordFile, WriteInPlaceTouchesOnlyThatRecord) {
+    TempHome t;
+    RecordFile f(t.file(QStringLiteral("x.dta")), emptyRecord());
+    ASSERT_TRUE(f.append(rec('a')));
+    ASSERT_TRUE(f.append(rec('b')));
+    ASSERT_TRUE(f.append(rec('c')));
+    ASSERT_TRUE(f.write(2, rec('B')));
+    EXPECT_EQ(readBytes(f.path()), rec('a') + rec('B') + rec('c'));
+    EXPECT_EQ(f.read(3).value(), rec('c'));
+    EXPECT_FALSE(f.write(5, rec('z'))); // no gaps
+    EXPECT_EQ(f.count(), 3);
+    // No temporary file is left beside it.
+    EXPECT_EQ(QDir(t.path()).entryList(QDir::Files), QStringList{QStringLiteral("x.dta")});
+}
+
+TEST(RecordFile, RemoveCompacts) {
+    TempHome t;
+    RecordFile f(t.file(QStringLiteral("x.dta")), emptyRecord());
+    f.writeAll({rec('1'), rec('2'), rec('3')});
+    ASSERT_TRUE(f.remove(2));
+    EXPECT_EQ(readBytes(f.path()), rec('1') + rec('3'));
+    EXPECT_FALSE(f.remove(3));
+    ASSERT_TRUE(f.remove(1));
+    ASSERT_TRUE(f.remove(1));
+    EXPECT_TRUE(f.exists());
+    EXPECT_EQ(readBytes(f.path()).size(), 0);
+}
+
+TEST(RecordFile, DamagedFilesReadWithoutCrashing) {
+    TempHome t;
+    const QString path = t.file(QStringLiteral("x.dta"));
+    RecordFile f(path, emptyRecord());
+    // One and a half records: the partial one reads as blanks and zeros after its bytes.
+    writeBytes(path, rec('a') + QByteArray("ab\xff\xfe", 4) + QByteArray(1, 'x').left(0));
+    ASSERT_EQ(f.count(), 2);
+    EXPECT_EQ(f.read(2).value(), QByteArray("ab\xff\xfe\0\0\0\0", 8));
+    EXPECT_EQ(f.readSlices(0, 4).at(1), QByteArray("ab\xff\xfe"));
+    EXPECT_EQ(f.readSlices(4, 4).at(1), QByteArray(4, '\0'));
+    // A write leaves whole records only.
+    ASSERT_TRUE(f.write(1, rec('z')));
+    EXPECT_EQ(readBytes(path).size(), 16);
+
+    // Trailing bytes under half a record are dropped by the next write.
+    writeBytes(path, rec('a') + QByteArray(3, '\x01'));
+    EXPECT_EQ(f.count(), 1);
+    ASSERT_TRUE(f.append(rec('b')));
+    EXPECT_EQ(readBytes(path), rec('a') + rec('b'));
+
+    // Binary garbage of any length is still counted and read.
+    QByteArray garbage;
+    for (int i = 0; i < 1000; ++i)
+        garbage += static_cast<char>(i * 37);
+    writeBytes(path, garbage);
+    EXPECT_EQ(f.count(), 125);
+    EXPECT_EQ(f.readAll().size(), 125u);
+}
+
+TEST(RecordFile, UnwritablePlaceReportsAnError) {
+    TempHome t;
+    writeBytes(t.file(QStringLiteral("plain")), "not a folder");
+    RecordFile f(t.file(QStringLiteral("plain/x.dta")), emptyRecord());
+    EXPECT_FALSE(f.append(rec('a')));
+    EXPECT_FALSE(f.errorString().isEmpty());
+    EXPECT_EQ(f.count(), 0);
+}
