@@ -33,3 +33,9 @@ struct CliResult {
 };
 
 } // namespace brevaro::test
+
+#include <ostream>
+// Readable QString values in failure messages.
+inline void PrintTo(const QString& s, std::ostream* os) {
+    *os << '"' << s.toStdString() << '"';
+}

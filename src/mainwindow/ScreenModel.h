@@ -1,0 +1,115 @@
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QStringList>
+#include <vector>
+
+namespace brevaro {
+
+enum class ControlKind {
+    TextBox,
+    ComboBox,
+    ListBox,      // several items selectable
+    CheckBox,     // value 0 or 1
+    OptionButton, // value 0 or 1
+    Button,
+    Label,
+    TabStrip, // listIndex is the selected tab
+    MenuItem,
+    StatusBar,
+    Form, // text is the window caption
+};
+
+// The state of one control of a window, as a view shows it.
+struct ControlState {
+    QString name;
+    int index = -1; // -1: not a member of a control array
+    ControlKind kind = ControlKind::Label;
+    QString text;
+    QStringList items;
+    int listIndex = -1;
+    QList<bool> selected;
+    int value = 0;
+    bool enabled = true;
+    bool visible = true;
+    bool inverted = false; // shown white on black for a moment (copy flash)
+    QString toolTip;
+    int maxLength = 0;     // 0: no limit
+    bool listOnly = false; // a combo box that takes only the texts of its items
+    int caret = -1;        // caret position requested by the program, -1: none
+
+    // "name" or, for an array member, "name_i": the widget's objectName.
+    QString objectName() const;
+};
+
+// Receives the events that a control raises, whether the user or the program changed it.
+class ControlEvents {
+public:
+    virtual ~ControlEvents() = default;
+    virtual void onChange(int id) = 0;
+    virtual void onClick(int id) = 0;
+    virtual void onFocus(int id) = 0;
+};
+
+// Every control of one window, addressed by name and index. Setters raise the same events
+// a real control raises (Change for a new text, Click for a selection or a value), so
+// handlers run alike for typing, loading and importing. Views follow controlChanged.
+class ScreenModel : public QObject {
+    Q_OBJECT
+public:
+    explicit ScreenModel(QObject* parent = nullptr);
+
+    int add(const QString& name, int index, ControlKind kind);
+    void setEvents(ControlEvents* events) { m_events = events; }
+
+    int id(QStringView name, int index = -1) const;
+    bool has(QStringView name, int index = -1) const;
+    int count() const { return static_cast<int>(m_controls.size()); }
+    const ControlState& at(int id) const { return m_controls[static_cast<std::size_t>(id)]; }
+    const ControlState& at(QStringView name, int index = -1) const { return at(id(name, index)); }
+
+    // Raise events.
+    void setText(int id, const QString& text);
+    void setListIndex(int id, int index);
+    void setValue(int id, int value);
+    void setItemSelected(int id, int item, bool selected);
+    void click(int id);
+    void focus(int id);
+
+    // Quiet changes: no event.
+    void setEnabled(int id, bool enabled);
+    void setVisible(int id, bool visible);
+    void setToolTip(int id, const QString& tip);
+    void setInverted(int id, bool inverted);
+    void setMaxLength(int id, int length);
+    void setListOnly(int id, bool listOnly);
+    void setCaret(int id, int position);
+    void setItems(int id, const QStringList& items); // empties the selection and the text
+    void addItem(int id, const QString& item);
+    void setCaption(int id, const QString& text); // labels, buttons, form caption, status bar
+
+    // Shorthands by name.
+    QString text(QStringView name, int index = -1) const { return at(name, index).text; }
+    void setText(QStringView name, const QString& t, int index = -1) {
+        setText(id(name, index), t);
+    }
+    bool enabled(QStringView name, int index = -1) const { return at(name, index).enabled; }
+    int value(QStringView name, int index = -1) const { return at(name, index).value; }
+
+    int focused() const { return m_focused; }
+
+signals:
+    void controlChanged(int id);
+
+private:
+    ControlState& state(int id) { return m_controls[static_cast<std::size_t>(id)]; }
+    void changed(int id) { emit controlChanged(id); }
+
+    std::vector<ControlState> m_controls;
+    QHash<QString, int> m_ids;
+    ControlEvents* m_events = nullptr;
+    int m_focused = -1;
+};
+
+} // namespace brevaro

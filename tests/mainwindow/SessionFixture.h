@@ -1,0 +1,56 @@
+#pragma once
+
+#include "ScriptedPrompts.h"
+#include "TestSupport.h"
+#include "mainwindow/EditingSession.h"
+
+namespace brevaro::test {
+
+// A started session on a fresh home, driven the way a user drives the window.
+class SessionTest : public ::testing::Test {
+protected:
+    TempHome home;
+    RecordStore store{home.home()};
+    ScriptedPrompts prompts;
+    std::unique_ptr<EditingSession> session;
+
+    void SetUp() override { restart(); }
+
+    void restart() {
+        session = std::make_unique<EditingSession>(store, prompts);
+        session->Start();
+    }
+
+    ScreenModel& screen() { return session->screen(); }
+    int id(QStringView name, int index = -1) { return screen().id(name, index); }
+    const ControlState& at(QStringView name, int index = -1) { return screen().at(name, index); }
+    QString text(QStringView name, int index = -1) { return screen().text(name, index); }
+    void type(QStringView name, const QString& t, int index = -1) {
+        screen().setText(id(name, index), t);
+    }
+    void click(QStringView name, int index = -1) { screen().click(id(name, index)); }
+    void button(int i) { click(u"cmdButton", i); }
+    QString status() { return text(u"StatusBar1"); }
+    QString caption() { return text(u"frmStart"); }
+
+    void newCompany(const QString& name) {
+        prompts.inputs.push_back(name);
+        button(0);
+    }
+    void newProgram(const QString& name) {
+        prompts.inputs.push_back(name);
+        button(3);
+    }
+    void addCompany(const QString& name) {
+        newCompany(name);
+        button(1);
+    }
+    void addProgram(const QString& name) {
+        newProgram(name);
+        button(4);
+    }
+    void selectCompany(int n) { screen().setListIndex(id(u"cboCompanyName"), n - 1); }
+    void selectProgram(int n) { screen().setListIndex(id(u"cboProgramName"), n - 1); }
+};
+
+} // namespace brevaro::test
