@@ -39,6 +39,29 @@ void CliContext::prepareForReading() {
         lockForWriting();
 }
 
+EditingSession& CliContext::session() {
+    if (!m_session) {
+        lockForWriting();
+        m_session = std::make_unique<EditingSession>(m_store, m_prompts);
+        m_session->Start();
+        failOnMessages();
+    }
+    return *m_session;
+}
+
+void CliContext::select(int company, int program) {
+    ScreenModel& screen = session().screen();
+    screen.setListIndex(screen.id(u"cboCompanyName"), company - 1);
+    if (program > 0)
+        screen.setListIndex(screen.id(u"cboProgramName"), program - 1);
+    failOnMessages();
+}
+
+void CliContext::failOnMessages() {
+    if (!m_prompts.messages.isEmpty())
+        throw CliError{2, m_prompts.messages.join(QStringLiteral(" ")).simplified()};
+}
+
 int CliContext::companyId(int company) {
     CompanyRecord record;
     m_store.readCompany(company, record);

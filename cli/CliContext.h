@@ -1,6 +1,8 @@
 #pragma once
 
+#include "AutoPrompts.h"
 #include "CliArgs.h"
+#include "mainwindow/EditingSession.h"
 #include "store/HomeLock.h"
 #include "store/RecordStore.h"
 
@@ -29,12 +31,23 @@ public:
     // The CompanyID stored in company n, which names its program file.
     int companyId(int company);
 
+    // The main window's session, started on the home as a freshly opened window; the first
+    // call takes the home lock.
+    EditingSession& session();
+    AutoPrompts& prompts() { return m_prompts; }
+    // Shows company c (and program p when above 0) as a user would select them.
+    void select(int company, int program = 0);
+    // Bad input when the session reported a problem through a message.
+    void failOnMessages();
+
     void print(const QString& text) { m_out.write(text.toUtf8()); }
     void printBytes(const QByteArray& bytes) { m_out.write(bytes); }
 
 private:
     RecordStore m_store;
     HomeLock m_lock;
+    AutoPrompts m_prompts;
+    std::unique_ptr<EditingSession> m_session;
     QIODevice& m_in;
     QIODevice& m_out;
 };

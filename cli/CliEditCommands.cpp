@@ -1,8 +1,8 @@
 #include "CliCommands.h"
 
+#include "platform/FileHelpers.h"
 #include "platform/StringHelpers.h"
 #include "records/RecordJson.h"
-#include "records/ValueLists.h"
 
 namespace brevaro::cli {
 
@@ -17,39 +17,115 @@ QString oneName(const CliArgs& args, const char* what) {
     return name;
 }
 
-void check(bool ok, RecordStore& store) {
-    if (!ok)
-        throw CliError{2, QStringLiteral("the records cannot be written: ") + store.errorString()};
+void press(CliContext& ctx, int button) {
+    EditingSession& s = ctx.session();
+    s.screen().click(s.id(u"cmdButton", button));
+    ctx.failOnMessages();
+}
+
+// An assignment resolved against the control table: the control that shows the field, or
+// none when the field lives only in the record.
+struct Target {
+    RecordSide side = RecordSide::None;
+    int field = -1;
+    int entry = 0;
+    int control = -1;
+    FieldType type = FieldType::Text;
+};
+
+Target resolve(EditingSession& s, const FieldAssignment& a, bool haveProgram) {
+    Target t;
+    const int companyField = companyLayout().indexOf(a.name);
+    const int programField = programLayout().indexOf(a.name);
+    if (a.name == QLatin1String("CompanyID"))
+        throw CliError{2, QStringLiteral("CompanyID is kept by the program and cannot be set")};
+    if (companyField < 0 && programField < 0)
+        throw CliError{2, QStringLiteral("there is no field %1").arg(a.name)};
+    if (companyField < 0 && !haveProgram)
+        throw CliError{2, QStringLiteral("%1 is a program field: give -p PROGRAM").arg(a.name)};
+    t.side = companyField >= 0 ? RecordSide::Company : RecordSide::Program;
+    t.field = companyField >= 0 ? companyField : programField;
+    const RecordLayout& layout = t.side == RecordSide::Company ? companyLayout() : programLayout();
+    const FieldSpec& f = layout.fields[static_cast<std::size_t>(t.field)];
+    t.type = f.type;
+    if (f.count > 1 && (a.index < 0 || a.index >= f.count))
+        throw CliError{2, QStringLiteral("%1 has entries 0 to %2: write %1[i]=VALUE")
+                              .arg(a.name)
+                              .arg(f.count - 1)};
+    if (f.count == 1 && a.index > 0)
+        throw CliError{2, QStringLiteral("%1 has no entry %2").arg(a.name).arg(a.index)};
+    t.entry = std::max(0, a.index);
+    for (int id = 0; id < s.screen().count(); ++id) {
+        const ControlSpec& c = s.spec(id);
+        if (c.side != t.side || c.field != t.field)
+            continue;
+        if (c.kind == ControlKind::ListBox && t.entry < s.screen().at(id).items.size())
+            t.control = id;
+        else if (c.kind != ControlKind::ListBox && c.entry == t.entry)
+            t.control = id;
+    }
+    return t;
+}
+
+int numberOf(const FieldAssignment& a) {
+    bool ok = false;
+    const int n = a.value.trimmed().toInt(&ok);
+    if (!ok || n < -32768 || n > 32767)
+        throw CliError{2,
+                       QStringLiteral("%1 takes a whole number, not \"%2\"").arg(a.name, a.value)};
+    return n;
+}
+
+// Puts the value where a user would type or click it, so limits and marks apply alike.
+void apply(EditingSession& s, const Target& t, const FieldAssignment& a) {
+    ScreenModel& screen = s.screen();
+    if (t.control < 0) {
+        FixedRecord& r =
+            t.side == RecordSide::Company ? static_cast<FixedRecord&>(s.company()) : s.program();
+        if (t.type == FieldType::Text)
+            r.setText(t.field, a.value, t.entry);
+        else
+            r.setNumber(t.field, numberOf(a), t.entry);
+        t.side == RecordSide::Company ? s.SetCompanyDirty() : s.SetProgramDirty();
+        return;
+    }
+    switch (screen.at(t.control).kind) {
+    case ControlKind::ListBox:
+        screen.setItemSelected(t.control, t.entry, numberOf(a) != 0);
+        break;
+    case ControlKind::CheckBox:
+        screen.setValue(t.control, numberOf(a) != 0 ? 1 : 0);
+        break;
+    case ControlKind::OptionButton:
+        screen.setValue(t.control, numberOf(a) != 0 ? 1 : 0);
+        break;
+    default:
+        screen.setText(t.control, a.value);
+        break;
+    }
 }
 
 } // namespace
 
 int newCompanyCommand(CliContext& ctx, const QStringList& words) {
     const QString name = oneName(CliArgs(words, {}, {}), "company name");
-    ctx.lockForWriting();
-    const int n = ctx.store().companyCount() + 1;
-    CompanyRecord company;
-    company.setNumber(CompanyField::CompanyID, n);
-    company.setText(CompanyField::CompanyName, name);
-    company.setText(CompanyField::Country, valueList(u"cboCountry").items.front());
-    check(ctx.store().writeCompany(n, company), ctx.store());
-    ctx.print(QStringLiteral("%1\n").arg(n));
+    ctx.prompts().nextInput = name;
+    press(ctx, 0);
+    press(ctx, 1);
+    ctx.print(QStringLiteral("%1\n").arg(ctx.session().CurrentCompanyNo));
     return 0;
 }
 
 int newProgramCommand(CliContext& ctx, const QStringList& words) {
     const CliArgs args(words, {QStringLiteral("-c")}, {});
     const QString name = oneName(args, "program name");
-    ctx.lockForWriting();
+    ctx.session();
     const int c = ctx.company(args.required(QStringLiteral("-c")));
-    const int id = ctx.companyId(c);
-    const int n = ctx.store().programCount(id) + 1;
-    ProgramRecord program;
-    program.clear(operatingSystemList().size(), languageList().size());
-    program.setNumber(ProgramField::CompanyID, id);
-    program.setText(ProgramField::ProgramName, name);
-    check(ctx.store().writeProgram(id, n, program), ctx.store());
-    ctx.print(QStringLiteral("%1\t%2\n").arg(c).arg(n));
+    ctx.select(c);
+    ctx.prompts().nextInput = name;
+    press(ctx, 3);
+    press(ctx, 4);
+    ctx.print(QStringLiteral("%1\t%2\n").arg(c).arg(ctx.session().CurrentProgramNo));
     return 0;
 }
 
@@ -57,20 +133,21 @@ int deleteCommand(CliContext& ctx, const QStringList& words) {
     const CliArgs args(words, {QStringLiteral("-c"), QStringLiteral("-p")}, {});
     if (!args.positional().isEmpty())
         throw CliError{1, QStringLiteral("unexpected argument %1").arg(args.positional().front())};
-    ctx.lockForWriting();
+    ctx.session();
     const int c = ctx.company(args.required(QStringLiteral("-c")));
     if (args.has(QStringLiteral("-p"))) {
-        const int id = ctx.companyId(c);
-        const int p = ctx.program(id, args.value(QStringLiteral("-p")));
-        check(ctx.store().deleteProgram(id, p), ctx.store());
+        ctx.select(c, ctx.program(ctx.companyId(c), args.value(QStringLiteral("-p"))));
+        press(ctx, 5);
     } else {
-        check(ctx.store().deleteCompany(c), ctx.store());
+        ctx.select(c);
+        press(ctx, 2);
     }
     return 0;
 }
 
 int setCommand(CliContext& ctx, const QStringList& words) {
-    const CliArgs args(words, {QStringLiteral("-c"), QStringLiteral("-p")}, {});
+    const CliArgs args(
+        words, {QStringLiteral("-c"), QStringLiteral("-p"), QStringLiteral("--file-info")}, {});
     QList<FieldAssignment> assignments;
     for (const QString& word : args.positional()) {
         FieldAssignment a;
@@ -78,41 +155,38 @@ int setCommand(CliContext& ctx, const QStringList& words) {
             throw CliError{1, QStringLiteral("\"%1\" is not FIELD=VALUE").arg(word)};
         assignments << a;
     }
-    if (assignments.isEmpty())
-        throw CliError{1, QStringLiteral("give at least one FIELD=VALUE")};
-    ctx.lockForWriting();
+    const bool fileInfo = args.has(QStringLiteral("--file-info"));
+    if (assignments.isEmpty() && !fileInfo)
+        throw CliError{1, QStringLiteral("give at least one FIELD=VALUE or --file-info PATH")};
+    if (fileInfo && !args.has(QStringLiteral("-p")))
+        throw CliError{1, QStringLiteral("--file-info needs -p PROGRAM")};
+    EditingSession& s = ctx.session();
     const int c = ctx.company(args.required(QStringLiteral("-c")));
-    CompanyRecord company;
-    ctx.store().readCompany(c, company);
-    const int id = company.number(CompanyField::CompanyID);
-    ProgramRecord program;
-    int p = 0;
-    if (args.has(QStringLiteral("-p"))) {
-        p = ctx.program(id, args.value(QStringLiteral("-p")));
-        ctx.store().readProgram(id, p, program);
+    const int p = args.has(QStringLiteral("-p"))
+                      ? ctx.program(ctx.companyId(c), args.value(QStringLiteral("-p")))
+                      : 0;
+    if (fileInfo && brevaro::fileSize(args.value(QStringLiteral("--file-info"))) < 0)
+        throw CliError{
+            2,
+            QStringLiteral("there is no file %1").arg(args.value(QStringLiteral("--file-info")))};
+    // Every assignment is checked before anything changes.
+    QList<Target> targets;
+    for (const auto& a : assignments)
+        targets << resolve(s, a, p > 0);
+    for (qsizetype i = 0; i < assignments.size(); ++i)
+        if (targets[i].type != FieldType::Text)
+            numberOf(assignments[i]);
+    ctx.select(c, p);
+    for (qsizetype i = 0; i < assignments.size(); ++i)
+        apply(s, targets[i], assignments[i]);
+    if (fileInfo) {
+        ctx.prompts().nextFile = args.value(QStringLiteral("--file-info"));
+        s.screen().click(s.id(u"cmdOpenFileInfo"));
     }
-    bool companyChanged = false;
-    bool programChanged = false;
-    for (const auto& a : assignments) {
-        QString message;
-        if (a.name == QLatin1String("CompanyID"))
-            throw CliError{2, QStringLiteral("CompanyID is kept by the program and cannot be set")};
-        if (companyLayout().indexOf(a.name) >= 0) {
-            if (!applyAssignment(company, a, &message))
-                throw CliError{2, message};
-            companyChanged = true;
-        } else if (p > 0 || programLayout().indexOf(a.name) < 0) {
-            if (!applyAssignment(program, a, &message))
-                throw CliError{2, message};
-            programChanged = true;
-        } else {
-            throw CliError{2, QStringLiteral("%1 is a program field: give -p PROGRAM").arg(a.name)};
-        }
-    }
-    if (companyChanged)
-        check(ctx.store().writeCompany(c, company), ctx.store());
-    if (programChanged)
-        check(ctx.store().writeProgram(id, p, program), ctx.store());
+    if (s.CompanyDirty)
+        press(ctx, 1); // also saves the program, which is offered first
+    if (s.ProgramDirty)
+        press(ctx, 4);
     return 0;
 }
 

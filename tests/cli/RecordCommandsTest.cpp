@@ -150,3 +150,34 @@ TEST(CliRecords, TheExecutableAnswersVersionAndHelp) {
     ASSERT_TRUE(p.waitForFinished(10000));
     EXPECT_TRUE(p.readAllStandardOutput().contains("new-program -c COMPANY NAME"));
 }
+
+TEST(CliRecords, SetFileInfoMeasuresTheDistributionFile) {
+    TempHome t;
+    runCliIn(t, args({"new-company", "Acme"}));
+    runCliIn(t, args({"new-program", "-c", "Acme", "Widget"}));
+    const QString setup = t.file(QStringLiteral("setup_widget.exe"));
+    writeBytes(setup, QByteArray(2621440, '\x4d'));
+    const CliResult r =
+        runCliIn(t, QStringList{QStringLiteral("set"), QStringLiteral("-c"), QStringLiteral("1"),
+                                QStringLiteral("-p"), QStringLiteral("Widget"),
+                                QStringLiteral("ProgramVersion=1.25"),
+                                QStringLiteral("Address1=") + QString(60, u'a'),
+                                QStringLiteral("--file-info"), setup});
+    ASSERT_EQ(r.status, 0) << r.err.toStdString();
+    const QJsonObject json = showJson(t, args({"-c", "1", "-p", "1"}));
+    const QJsonObject p = json[QStringLiteral("program")].toObject();
+    QStringList got;
+    for (auto key : {"FilenameVersioned", "FilenamePrevious", "FilenameGeneric", "FilenameLong",
+                     "FileSizeBytes", "FileSizeK", "FileSizeMB"})
+        got << p[QLatin1String(key)].toString();
+    EXPECT_EQ(
+        got.join(u','),
+        QStringLiteral("setup_12.exe,setup_12.exe,setup_.exe,setup_widget.exe,2621440,2560,2.50"));
+    // A company field set alongside goes through the same 30-character box.
+    EXPECT_EQ(json[QStringLiteral("company")].toObject()[QStringLiteral("Address1")].toString(),
+              QString(30, u'a'));
+
+    const CliResult missing =
+        runCliIn(t, args({"set", "-c", "1", "-p", "1", "--file-info", "/no/such/file"}));
+    EXPECT_EQ(missing.status, 2);
+}
