@@ -10,6 +10,10 @@ const std::vector<CliCommand>& cliCommands() {
         {"new-program", "new-program -c COMPANY NAME", newProgramCommand},
         {"delete", "delete -c COMPANY [-p PROGRAM]", deleteCommand},
         {"set", "set -c COMPANY [-p PROGRAM] [--file-info PATH] FIELD=VALUE ...", setCommand},
+        {"pad", "pad -c COMPANY -p PROGRAM [-o FILE]", padCommand},
+        {"webinfo", "webinfo -c COMPANY -p PROGRAM", webinfoCommand},
+        {"verify", "verify -c COMPANY -p PROGRAM [-o FILE]", verifyCommand},
+        {"import", "import FILE...", importCommand},
     };
     return commands;
 }

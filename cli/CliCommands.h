@@ -25,4 +25,9 @@ int newCompanyCommand(CliContext& ctx, const QStringList& words);
 int newProgramCommand(CliContext& ctx, const QStringList& words);
 int deleteCommand(CliContext& ctx, const QStringList& words);
 int setCommand(CliContext& ctx, const QStringList& words);
+// PAD commands.
+int padCommand(CliContext& ctx, const QStringList& words);
+int webinfoCommand(CliContext& ctx, const QStringList& words);
+int verifyCommand(CliContext& ctx, const QStringList& words);
+int importCommand(CliContext& ctx, const QStringList& words);
 } // namespace brevaro::cli

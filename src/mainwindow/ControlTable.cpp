@@ -58,8 +58,8 @@ public:
         row().hintText = QString::fromUtf8(text);
         return *this;
     }
-    TableBuilder& listOnly() {
-        row().listOnly = true;
+    TableBuilder& keepsItem() {
+        row().keepsItem = true;
         return *this;
     }
     TableBuilder& noHint() {
@@ -205,7 +205,7 @@ void programInfoControls(TableBuilder& t) {
         .program(PF::ReleaseStatus)
         .mark(P, kBoth)
         .itemHint()
-        .listOnly()
+        .keepsItem()
         .caption("Status")
         .tip("Select the status of this release");
     t.add("txtCostUS", K::TextBox)
@@ -225,7 +225,7 @@ void programInfoControls(TableBuilder& t) {
         .program(PF::InstallSupport)
         .mark(P, kBoth)
         .itemHint()
-        .listOnly()
+        .keepsItem()
         .caption("Install Support")
         .tip("Select what type of Install / Unstall support your program have");
     t.add("lstSupportedOS", K::ListBox)

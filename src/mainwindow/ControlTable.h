@@ -28,7 +28,7 @@ struct ControlSpec {
     FocusHint hint = FocusHint::None;
     QString hintText;
     QString toolTip;
-    bool listOnly = false; // a drop-down list: texts other than its items are refused
+    bool keepsItem = false; // clearing the text keeps the selected item (a status always shows)
 };
 
 // The controls of the main window. Company and program controls come first, each in the

@@ -24,7 +24,7 @@ void EditingSession::buildScreen() {
     for (const ControlSpec& s : m_controls) {
         const int id = m_screen.add(s.name, s.index, s.kind);
         m_screen.setMaxLength(id, s.limit);
-        m_screen.setListOnly(id, s.listOnly);
+        m_screen.setKeepsItem(id, s.keepsItem);
         m_screen.setCaption(id, s.caption);
     }
     m_screen.setItems(id(u"SSTab1"), mainTabCaptions());

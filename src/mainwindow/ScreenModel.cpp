@@ -40,8 +40,8 @@ void ScreenModel::setText(int id, const QString& text) {
         return;
     if (s.kind == ControlKind::ComboBox) {
         const int item = static_cast<int>(s.items.indexOf(text));
-        if (s.listOnly && item < 0)
-            return; // a drop-down list keeps its selection
+        if (s.keepsItem && text.isEmpty())
+            return;
         s.listIndex = item;
     }
     s.text = text;
@@ -129,8 +129,8 @@ void ScreenModel::setMaxLength(int id, int length) {
     state(id).maxLength = length;
 }
 
-void ScreenModel::setListOnly(int id, bool listOnly) {
-    state(id).listOnly = listOnly;
+void ScreenModel::setKeepsItem(int id, bool keepsItem) {
+    state(id).keepsItem = keepsItem;
 }
 
 void ScreenModel::setCaret(int id, int position) {

@@ -35,9 +35,9 @@ struct ControlState {
     bool visible = true;
     bool inverted = false; // shown white on black for a moment (copy flash)
     QString toolTip;
-    int maxLength = 0;     // 0: no limit
-    bool listOnly = false; // a combo box that takes only the texts of its items
-    int caret = -1;        // caret position requested by the program, -1: none
+    int maxLength = 0;      // 0: no limit
+    bool keepsItem = false; // a combo box whose text cannot be cleared: it keeps its item
+    int caret = -1;         // caret position requested by the program, -1: none
 
     // "name" or, for an array member, "name_i": the widget's objectName.
     QString objectName() const;
@@ -83,7 +83,7 @@ public:
     void setToolTip(int id, const QString& tip);
     void setInverted(int id, bool inverted);
     void setMaxLength(int id, int length);
-    void setListOnly(int id, bool listOnly);
+    void setKeepsItem(int id, bool keepsItem);
     void setCaret(int id, int position);
     void setItems(int id, const QStringList& items); // empties the selection and the text
     void addItem(int id, const QString& item);

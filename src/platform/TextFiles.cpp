@@ -17,11 +17,7 @@ FileDialogSpec textFileDialog(const QString& initialFolder) {
 
 } // namespace
 
-QString readTextLines(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return QString();
-    const QString all = fromWin1252(file.readAll());
+QString linesWithCrLf(QStringView all) {
     QString out;
     out.reserve(all.size() + all.size() / 16);
     qsizetype start = 0;
@@ -30,13 +26,20 @@ QString readTextLines(const QString& path) {
         qsizetype end = start;
         while (end < n && all[end] != u'\r' && all[end] != u'\n')
             ++end;
-        out += QStringView(all).sliced(start, end - start);
+        out += all.sliced(start, end - start);
         out += QStringLiteral("\r\n");
         if (end < n && all[end] == u'\r' && end + 1 < n && all[end + 1] == u'\n')
             ++end;
         start = end + 1;
     }
     return out;
+}
+
+QString readTextLines(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QString();
+    return linesWithCrLf(fromWin1252(file.readAll()));
 }
 
 bool writeTextWithLineEnd(const QString& path, const QString& text) {

@@ -6,6 +6,8 @@
 
 namespace brevaro {
 
+// The text's lines, each followed by CR LF whatever line end it had (CR LF, LF or a lone CR).
+QString linesWithCrLf(QStringView all);
 // Reads a text file's lines, each followed by CR LF whatever line end it had (CR LF, LF or
 // a lone CR); Windows-1252. Empty for a missing file.
 QString readTextLines(const QString& path);

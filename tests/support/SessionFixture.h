@@ -3,6 +3,7 @@
 #include "ScriptedPrompts.h"
 #include "TestSupport.h"
 #include "mainwindow/EditingSession.h"
+#include "pad/PadCommands.h"
 
 namespace brevaro::test {
 
@@ -18,6 +19,7 @@ protected:
 
     void restart() {
         session = std::make_unique<EditingSession>(store, prompts);
+        installPadCommands(*session);
         session->Start();
     }
 

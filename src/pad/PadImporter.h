@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+namespace brevaro {
+
+class EditingSession;
+
+// A PAD file's text as the importer reads it: decoded in the encoding its XML declaration
+// names (UTF-8, ISO-8859-1, Windows-1252; Windows-1252 when none), every line followed by
+// CR LF, leading and trailing blanks removed.
+QString readPadFileText(const QString& path);
+
+// Walks the tags of a PAD text the way the importer does (it is not an XML parser): calls
+// visit for every value element with its opening tag, its value and the description language
+// in force. Linear in the size of the text.
+void scanPadTags(
+    QStringView text,
+    const std::function<void(QStringView tag, QStringView value, int language)>& visit);
+
+// Reads the text into the main window's fields, creating or finding the company and creating
+// the program. False, after telling the user, when the text is not a PAD file.
+bool ReadPADFile(EditingSession& session, const QString& text);
+// Imports one file and saves what it set; false when the file was refused.
+bool importPadFile(EditingSession& session, const QString& path);
+// The Import PAD command: asks for a file, then imports it.
+void ImportPAD(EditingSession& session);
+
+} // namespace brevaro

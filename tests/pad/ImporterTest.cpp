@@ -1,0 +1,195 @@
+#include "FullRecords.h"
+#include "SessionFixture.h"
+#include "pad/PadImporter.h"
+#include "pad/PadText.h"
+#include "records/Win1252.h"
+
+#include <QDir>
+
+using namespace brevaro;
+using namespace brevaro::test;
+
+namespace {
+
+class ImporterTest : public SessionTest {
+protected:
+    QString padFile(const QString& name, const QByteArray& bytes) {
+        const QString path = home.file(name);
+        writeBytes(path, bytes);
+        return path;
+    }
+    bool import(const QString& path) { return importPadFile(*session, path); }
+    QByteArray minimal(const QByteArray& body) {
+        return "<?xml version=\"1.0\"?>\r\n<XML_DIZ_INFO>\r\n" + body + "\r\n</XML_DIZ_INFO>\r\n";
+    }
+};
+
+} // namespace
+
+TEST_F(ImporterTest, WhatThisProgramWroteComesBackWhole) {
+    const CompanyRecord company = fullCompany();
+    const ProgramRecord program = fullProgram();
+    const QString doc = CreatePADText(company, program);
+    ASSERT_TRUE(import(
+        padFile(QStringLiteral("full.xml"), toWin1252(QString(doc + QStringLiteral("\r\n"))))));
+    EXPECT_TRUE(prompts.asked.isEmpty());
+    EXPECT_EQ(store.companyNames(), QStringList{QStringLiteral("CompanyName")});
+    CompanyRecord c;
+    ProgramRecord p;
+    store.readCompany(1, c);
+    store.readProgram(1, 1, p);
+    EXPECT_EQ(c.bytes(), company.bytes());
+    // Every field is back; the licence texts each gained one CR LF, and ExpireCount is not
+    // written with a date-based expiry.
+    ProgramRecord expected = program;
+    for (auto f : {ProgramField::DistributionPermissions, ProgramField::EULA})
+        expected.setText(f, QString(program.text(f) + QStringLiteral("\r\n")));
+    expected.setText(ProgramField::ExpireCount, u"");
+    expected.setNumber(ProgramField::ExpireBasedOn, 0, 0);
+    expected.setNumber(ProgramField::ExpireBasedOn, 0, 1);
+    expected.setNumber(ProgramField::ExpireBasedOn, 0, 2);
+    expected.setNumber(ProgramField::OSSupported, 0, 26);
+    for (int f = 0; f < static_cast<int>(programLayout().fields.size()); ++f) {
+        const FieldSpec& s = programLayout().fields[static_cast<std::size_t>(f)];
+        for (int i = 0; i < s.count; ++i)
+            if (s.isText())
+                EXPECT_EQ(p.text(f, i), expected.text(f, i)) << s.name << i;
+            else
+                EXPECT_EQ(p.number(f, i), expected.number(f, i)) << s.name << i;
+    }
+    // Writing again gives the same document, but for the added line ends.
+    QString again = doc;
+    again.replace(QStringLiteral("DistributionPermissions</Distribution"),
+                  QStringLiteral("DistributionPermissions\r\n</Distribution"));
+    again.replace(QStringLiteral("<more></EULA>"), QStringLiteral("<more>\r\n</EULA>"));
+    EXPECT_EQ(CreatePADText(c, p), again);
+    // The window shows what was imported, clean.
+    EXPECT_EQ(text(u"cboProgramName"), QStringLiteral("ProgramName"));
+    EXPECT_FALSE(session->CompanyDirty || session->ProgramDirty);
+}
+
+TEST_F(ImporterTest, RealFilesFromOtherTools) {
+    const QDir samples(QStringLiteral(BREVARO_SAMPLES));
+    if (!samples.exists())
+        GTEST_SKIP() << "no sample folder beside the repository";
+    for (const QString& name :
+         samples.entryList({QStringLiteral("*.xml")}, QDir::Files, QDir::Name))
+        EXPECT_TRUE(import(samples.filePath(name))) << name.toStdString();
+    EXPECT_EQ(store.companyNames(),
+              (QStringList{QStringLiteral("Denis Stankovski"), QStringLiteral("Yaniv Kalsky"),
+                           QStringLiteral("Mark Russell"), QStringLiteral("DoxBox")}));
+    ProgramRecord p;
+    store.readProgram(3, 1, p); // the file without a company name, under its author's name
+    EXPECT_EQ(p.text(ProgramField::ProgramName), QStringLiteral("UPS"));
+    EXPECT_EQ(p.text(ProgramField::ReleaseYear), QStringLiteral("2002"));
+    store.readProgram(4, 1, p); // ISO-8859-1, tabs, many unknown systems and languages
+    EXPECT_EQ(p.text(ProgramField::ReleaseMonth), QStringLiteral("8"));
+    EXPECT_EQ(p.number(ProgramField::OSSupported, 5), -1); // WinNT 4.x
+    EXPECT_EQ(p.number(ProgramField::OSSupported, 10), 0); // Linux is not in the file
+    EXPECT_TRUE(
+        p.text(ProgramField::CharDesc250).contains(QStringLiteral("&quot;virtual disks&quot;")));
+    EXPECT_EQ(p.number(ProgramField::DescriptionActive, 3), 0); // the German block is empty
+    store.readProgram(1, 1, p); // UTF-8 with Cyrillic: what Windows-1252 cannot hold becomes "?"
+    EXPECT_EQ(p.text(ProgramField::ProgramVersion).left(3), QStringLiteral("2.7"));
+}
+
+TEST_F(ImporterTest, RefusedFilesChangeNothing) {
+    for (const QByteArray& bytes :
+         {QByteArray("hello <?xml"), QByteArray("\xEF\xBB\xBF<?xml version=\"1.0\"?>"),
+          QByteArray(), QByteArray("\x00\x01\x02<?xml", 8)}) {
+        prompts.messages.clear();
+        EXPECT_FALSE(import(padFile(QStringLiteral("bad.xml"), bytes)));
+        ASSERT_EQ(prompts.messages.size(), 1);
+        EXPECT_EQ(
+            prompts.messages[0],
+            QStringLiteral("Invalid PAD XML File|Invalid PAD XML File\r\nMust start with: <?xml"));
+    }
+    EXPECT_EQ(prompts.beeps, 4);
+    EXPECT_FALSE(QFile::exists(home.file(QStringLiteral("data/company.dta"))));
+    EXPECT_FALSE(session->ImportInProgress);
+    // Upper case is fine.
+    EXPECT_TRUE(import(padFile(QStringLiteral("upper.xml"),
+                               "  <?XML version=\"1.0\"?><Company_Name>Upper</Company_Name>")));
+    EXPECT_EQ(store.companyNames(), QStringList{QStringLiteral("Upper")});
+}
+
+TEST_F(ImporterTest, BrokenTextEndsTheScanCleanly) {
+    QByteArray binary("<?xml ");
+    for (int i = 0; i < 4096; ++i)
+        binary += static_cast<char>((i * 7919) & 0xFF);
+    const QByteArray cases[] = {
+        minimal("<Company_Name>Trunc</Company_Name><Program_Name>Cut</"
+                "Program_Name><Program_Version>1.0</Prog"),
+        binary,
+        "<?xml" + QByteArray(50000, '<'),
+        "<?xml" + QByteArray(20000, '>') + QByteArray(20000, '<'),
+    };
+    for (const QByteArray& bytes : cases)
+        EXPECT_TRUE(import(padFile(QStringLiteral("broken.xml"), bytes)));
+    EXPECT_EQ(store.companyNames().front(), QStringLiteral("Trunc"));
+    EXPECT_EQ(store.programNames(1), QStringList{QStringLiteral("Cut")});
+}
+
+TEST_F(ImporterTest, TagRules) {
+    addCompany(QStringLiteral("Acme"));
+    type(u"txtAddress1", QStringLiteral("kept"));
+    button(1);
+    const QString path =
+        padFile(QStringLiteral("rules.xml"),
+                minimal("<Company_Name>Acme</Company_Name>\r\n"
+                        "<Address_1 />\r\n<Address_2></Address_2>\r\n<City_Town "
+                        "attr=\"x\">ignored</City_Town>\r\n"
+                        "<Program_Name>Widget</Program_Name>\r\n"
+                        "<Program_OS_Support>OS/2 Warp "
+                        "4</Program_OS_Support>\r\n<Program_Language>english</Program_Language>\r\n"
+                        "<Has_Expire_Info>y</Has_Expire_Info><ASP_Member>y</ASP_Member>\r\n"
+                        "<Expire_Based_On>Uses</Expire_Based_On>\r\n"
+                        "<EULA>one</EULA><EULA>two</EULA>\r\n"
+                        "<Keywords>before any language</Keywords>\r\n"
+                        "<Program_Descriptions><French><Char_Desc_45>fr</Char_Desc_45></French></"
+                        "Program_Descriptions>\r\n"
+                        "<Char_Desc_80>a <b>bold</b> word</Char_Desc_80>"));
+    ASSERT_TRUE(import(path));
+    ASSERT_TRUE(import(path)); // a second import makes a second program of the same name
+    EXPECT_EQ(store.companyNames(), QStringList{QStringLiteral("Acme")});
+    EXPECT_EQ(store.programNames(1),
+              (QStringList{QStringLiteral("Widget"), QStringLiteral("Widget")}));
+    CompanyRecord c;
+    store.readCompany(1, c);
+    EXPECT_EQ(c.text(CompanyField::Address1), QStringLiteral("kept")); // the company's own value
+    ProgramRecord p;
+    store.readProgram(1, 2, p);
+    for (int i = 0; i < 26; ++i) // "OS/2 Warp 4" also holds "OS/2" and "OS/2 Warp"
+        EXPECT_EQ(p.number(ProgramField::OSSupported, i), i >= 13 && i <= 15 ? -1 : 0) << i;
+    EXPECT_EQ(p.number(ProgramField::LanguageSupported, 0), 0); // case counts
+    EXPECT_EQ(p.number(ProgramField::HasExpireInfo), 0);
+    EXPECT_EQ(p.number(ProgramField::ASPMember), 1);
+    EXPECT_EQ(p.number(ProgramField::ExpireBasedOn, 1), -1);
+    EXPECT_EQ(p.text(ProgramField::EULA), QStringLiteral("one\r\ntwo\r\n"));
+    EXPECT_EQ(p.text(ProgramField::Keywords, 0), QStringLiteral("before any language"));
+    EXPECT_EQ(p.text(ProgramField::CharDesc45, 2), QStringLiteral("fr"));
+    EXPECT_EQ(p.number(ProgramField::DescriptionActive, 2), 1);
+    // After the French block the language stays French; "<b>bold" is scanned as a tag.
+    EXPECT_EQ(p.text(ProgramField::CharDesc80, 2), QString());
+    EXPECT_EQ(text(u"cboProgramName"), QStringLiteral("Widget"));
+    EXPECT_EQ(session->CurrentProgramNo, 2);
+}
+
+TEST_F(ImporterTest, ACompanyOnlyDifferingInCaseIsANewOne) {
+    addCompany(QStringLiteral("Acme"));
+    ASSERT_TRUE(
+        import(padFile(QStringLiteral("a.xml"), minimal("<Company_Name>ACME</Company_Name>"))));
+    EXPECT_EQ(store.companyNames(), (QStringList{QStringLiteral("Acme"), QStringLiteral("ACME")}));
+}
+
+TEST_F(ImporterTest, ImportCommandAsksForTheFile) {
+    prompts.files.push_back(std::nullopt);
+    click(u"mnuPAD", 8);
+    ASSERT_EQ(prompts.dialogs.size(), 1);
+    EXPECT_EQ(prompts.dialogs[0].filter, QStringLiteral("PAD File(s) (*.xml)|*.xml"));
+    EXPECT_EQ(prompts.dialogs[0].initialFolder, home.home().padFolder());
+    prompts.files.push_back(
+        padFile(QStringLiteral("m.xml"), minimal("<Company_Name>Menu</Company_Name>")));
+    click(u"mnuPAD", 8);
+    EXPECT_EQ(store.companyNames(), QStringList{QStringLiteral("Menu")});
+}

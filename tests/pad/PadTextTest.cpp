@@ -1,0 +1,170 @@
+#include "pad/PadText.h"
+#include "TestSupport.h"
+#include "records/ValueLists.h"
+
+#include <gtest/gtest.h>
+
+using namespace brevaro;
+
+namespace {
+
+using PF = ProgramField;
+
+QStringList lines(const QString& doc) {
+    QStringList l = doc.split(QStringLiteral("\r\n"));
+    EXPECT_EQ(l.takeLast(), QString()) << "the last line ends with CR LF too";
+    return l;
+}
+
+ProgramRecord emptyProgram() {
+    ProgramRecord p;
+    p.setNumber(PF::DescriptionActive, 0, 0);
+    return p;
+}
+
+} // namespace
+
+// The document of empty records, written out by hand from the element layout.
+TEST(PadText, EmptyRecordsGiveTheEmptyForms) {
+    qputenv("BREVARO_PRODUCT_SITE", "http://www.brevaro.example");
+    const QString expected = QStringLiteral(
+        "<?xml version=\"1.0\" encoding=\"Windows-1252\" ?> \n\n"
+        "<!-- Created By Brevaro version: 1.0.0 -->\n"
+        "<!-- Available for download at: http://www.brevaro.example -->\n\n"
+        "<XML_DIZ_INFO>\n\n<MASTER_PAD_VERSION_INFO>\n "
+        "<MASTER_PAD_VERSION>1.15</MASTER_PAD_VERSION>\n"
+        " <MASTER_PAD_INFO>Portable Application Description, or PAD for short, is a data set that "
+        "is used by "
+        "shareware authors to disseminate information to anyone interested in their software "
+        "products. To "
+        "find out more go to http://www.asp-shareware.org/pad</MASTER_PAD_INFO>\n"
+        "</MASTER_PAD_VERSION_INFO>\n\n"
+        "<Company_Info>\n <Company_Name />\n <Address_1 />\n <Address_2 />\n <City_Town />\n "
+        "<State_Province />\n"
+        " <Zip_Postal_Code />\n <Country />\n <Company_WebSite_URL />\n  <Contact_Info>\n  "
+        "<Author_First_Name />\n"
+        "  <Author_Last_Name />\n  <Author_Email />\n  <Contact_First_Name />\n  "
+        "<Contact_Last_Name />\n"
+        "  <Contact_Email />\n </Contact_Info>\n <Support_Info>\n  <Sales_Email />\n  "
+        "<Support_Email />\n"
+        "  <General_Email />\n  <Sales_Phone />\n  <Support_Phone />\n  <General_Phone />\n  "
+        "<Fax_Phone />\n"
+        " </Support_Info>\n</Company_Info>\n\n"
+        "<Program_Info>\n <Program_Name />\n <Program_Version />\n <Program_Release_Month />\n"
+        " <Program_Release_Day />\n <Program_Release_Year />\n <Program_Cost_Dollars />\n"
+        " <Program_Cost_Other_Code />\n <Program_Cost_Other />\n <Program_Type />\n "
+        "<Program_Release_Status />\n"
+        " <Program_Install_Support />\n <Program_OS_Support />\n <Program_Language />\n "
+        "<File_Info>\n"
+        "  <Filename_Versioned />\n  <Filename_Previous />\n  <Filename_Generic />\n  "
+        "<Filename_Long />\n"
+        "  <File_Size_Bytes />\n  <File_Size_K />\n  <File_Size_MB />\n </File_Info>\n "
+        "<Expire_Info>\n"
+        "  <Has_Expire_Info>N</Has_Expire_Info>\n  <Expire_Count />\n  <Expire_Based_On />\n"
+        "  <Expire_Other_Info />\n </Expire_Info>\n <Program_Change_Info />\n "
+        "<Program_Specific_Category />\n"
+        " <Program_Categories />\n <Program_System_Requirements />\n "
+        "<Includes_JAVA_VM>N</Includes_JAVA_VM>\n"
+        " <Includes_VB_Runtime>N</Includes_VB_Runtime>\n <Includes_DirectX>N</Includes_DirectX>\n"
+        "</Program_Info>\n\n<Program_Descriptions>\n</Program_Descriptions>\n\n"
+        "<Web_Info>\n <Application_URLs>\n  <Application_Info_URL />\n  <Application_Order_URL />\n"
+        "  <Application_Screenshot_URL />\n  <Application_Icon_URL />\n  <Application_XML_File_URL "
+        "/>\n"
+        " </Application_URLs>\n <Download_URLs>\n  <Primary_Download_URL />\n  "
+        "<Secondary_Download_URL />\n"
+        "  <Additional_Download_URL_1 />\n  <Additional_Download_URL_2 />\n "
+        "</Download_URLs>\n</Web_Info>\n\n"
+        "<Permissions>\n <Distribution_Permissions />\n <EULA "
+        "/>\n</Permissions>\n\n\n\n\n\n</XML_DIZ_INFO>\n");
+    QString crlf = expected;
+    crlf.replace(u'\n', QStringLiteral("\r\n"));
+    EXPECT_EQ(CreatePADText(CompanyRecord(), emptyProgram()), crlf);
+    qunsetenv("BREVARO_PRODUCT_SITE");
+}
+
+TEST(PadText, ValuesFlagsAndLanguages) {
+    CompanyRecord c;
+    c.setText(CompanyField::CompanyName, u"  A&B <Tools>  ");
+    ProgramRecord p;
+    p.setText(PF::ProgramName, u"   ");
+    for (int i : {1, 2, 6, 26})
+        p.setNumber(PF::OSSupported, -1, i);
+    p.setNumber(PF::LanguageSupported, -1, 0);
+    p.setNumber(PF::LanguageSupported, 7, 3); // any non-zero value counts
+    p.setNumber(PF::DescriptionActive, 2, 0); // only exactly 1 counts
+    p.setNumber(PF::DescriptionActive, 1, 8);
+    p.setText(PF::Keywords, u"ru words", 8);
+    p.setText(PF::CharDesc2000, u"line one\r\nline two", 8);
+    p.setNumber(PF::IncludesDirectX, -1);
+    const QStringList l = lines(CreatePADText(c, p));
+    EXPECT_TRUE(l.contains(QStringLiteral(" <Company_Name>A&B <Tools></Company_Name>")));
+    EXPECT_TRUE(l.contains(QStringLiteral(" <Program_Name />")));
+    EXPECT_TRUE(
+        l.contains(QStringLiteral(" <Program_OS_Support>Win95,Win98,WinXP</Program_OS_Support>")));
+    EXPECT_TRUE(l.contains(QStringLiteral(" <Program_Language>English,German</Program_Language>")));
+    EXPECT_TRUE(l.contains(QStringLiteral(" <Includes_DirectX>Y</Includes_DirectX>")));
+    const qsizetype start = l.indexOf(QStringLiteral("<Program_Descriptions>"));
+    EXPECT_EQ(
+        l.mid(start, 12),
+        (QStringList{QStringLiteral("<Program_Descriptions>"), QStringLiteral(" <Russian>"),
+                     QStringLiteral("  <Keywords>ru words</Keywords>"),
+                     QStringLiteral("  <Char_Desc_45 />"), QStringLiteral("  <Char_Desc_80 />"),
+                     QStringLiteral("  <Char_Desc_250 />"), QStringLiteral("  <Char_Desc_450 />"),
+                     QStringLiteral("  <Char_Desc_2000>line one"),
+                     QStringLiteral("line two</Char_Desc_2000>"), QStringLiteral(" </Russian>"),
+                     QStringLiteral("</Program_Descriptions>"), QString()}));
+}
+
+TEST(PadText, ExpiryVariants) {
+    auto expiry = [](const ProgramRecord& p) {
+        const QStringList l = lines(CreatePADText(CompanyRecord(), p));
+        const qsizetype a = l.indexOf(QStringLiteral(" <Expire_Info>"));
+        const qsizetype b = l.indexOf(QStringLiteral(" </Expire_Info>"));
+        return l.mid(a + 1, b - a - 1).join(u'|');
+    };
+    ProgramRecord p;
+    p.setNumber(PF::HasExpireInfo, 1);
+    p.setText(PF::ExpireCount, u"30");
+    p.setNumber(PF::ExpireBasedOn, -1, 0);
+    p.setNumber(PF::ExpireBasedOn, -1, 1); // the highest index wins
+    p.setText(PF::ExpireMonth, u"05");
+    EXPECT_EQ(
+        expiry(p),
+        QStringLiteral("  <Has_Expire_Info>Y</Has_Expire_Info>|  <Expire_Count>30</Expire_Count>|"
+                       "  <Expire_Based_On>Uses</Expire_Based_On>|  <Expire_Other_Info />"));
+    p.setNumber(PF::ExpireBasedOn, -1, 3);
+    p.setText(PF::ExpireYear, u"2009");
+    EXPECT_EQ(
+        expiry(p),
+        QStringLiteral(
+            "  <Has_Expire_Info>Y</Has_Expire_Info>|  <Expire_Based_On>Date</Expire_Based_On>|"
+            "  <Expire_Month>05</Expire_Month>|  <Expire_Day />|  <Expire_Year>2009</Expire_Year>|"
+            "  <Expire_Other_Info />"));
+    p.setText(PF::ExpireMonth, u"");
+    EXPECT_EQ(
+        expiry(p),
+        QStringLiteral("  <Has_Expire_Info>Y</Has_Expire_Info>|  <Expire_Month />|  <Expire_Day />|"
+                       "  <Expire_Year>2009</Expire_Year>|  <Expire_Other_Info />"));
+}
+
+TEST(PadText, AssociationBlocksUseTheFullForm) {
+    ProgramRecord p;
+    p.setNumber(PF::ASPActivated, 1);
+    p.setNumber(PF::ESCActivated, -1); // only exactly 1 activates
+    p.setNumber(PF::TPAActivated, 1);
+    p.setNumber(PF::TPAMember, 1);
+    p.setText(PF::TrialLicenseType, u"Trialware");
+    const QStringList l = lines(CreatePADText(CompanyRecord(), p));
+    const qsizetype end = l.indexOf(QStringLiteral("</Permissions>"));
+    EXPECT_EQ(
+        l.mid(end + 1),
+        (QStringList{QString(), QStringLiteral("<ASP>"), QStringLiteral(" <ASP_FORM>Y</ASP_FORM>"),
+                     QStringLiteral(" <ASP_Member>N</ASP_Member>"),
+                     QStringLiteral(" <ASP_Member_Number></ASP_Member_Number>"),
+                     QStringLiteral("</ASP>"), QString(), QString(), QString(),
+                     QStringLiteral("<TPA>"), QStringLiteral(" <TPA_FORM>Y</TPA_FORM>"),
+                     QStringLiteral(" <TPA_Member>Y</TPA_Member>"),
+                     QStringLiteral(" <TPA_Member_ID></TPA_Member_ID>"),
+                     QStringLiteral(" <Trial_License_Type>Trialware</Trial_License_Type>"),
+                     QStringLiteral("</TPA>"), QString(), QStringLiteral("</XML_DIZ_INFO>")}));
+}
