@@ -174,11 +174,11 @@ TEST_F(SessionTest, SelectingCompaniesShowsTheirOwnPrograms) {
 }
 
 TEST_F(SessionTest, CommandsThatAreNotBuiltSaySo) {
-    button(6);
+    button(8);
     ASSERT_EQ(prompts.messages.size(), 1);
-    EXPECT_TRUE(prompts.messages[0].contains(QStringLiteral("Verify PAD is not available yet")));
+    EXPECT_TRUE(prompts.messages[0].contains(QStringLiteral("Submit is not available yet")));
     bool ran = false;
-    session->setCommandHandler(SessionCommand::VerifyPAD, [&] { ran = true; });
-    click(u"mnuPAD", 9);
+    session->setCommandHandler(SessionCommand::Submit, [&] { ran = true; });
+    click(u"mnuPAD", 11);
     EXPECT_TRUE(ran);
 }

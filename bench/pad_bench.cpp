@@ -1,0 +1,114 @@
+// Importing a large PAD file, scanning hostile text, and writing many PAD documents.
+#include "AutoPrompts.h"
+#include "mainwindow/EditingSession.h"
+#include "pad/PadCommands.h"
+#include "pad/PadImporter.h"
+#include "pad/PadText.h"
+#include "records/Win1252.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <benchmark/benchmark.h>
+
+using namespace brevaro;
+
+namespace {
+
+constexpr qsizetype kLargeFile = 20 * 1024 * 1024;
+
+CompanyRecord sampleCompany() {
+    CompanyRecord c;
+    c.setNumber(CompanyField::CompanyID, 1);
+    c.setText(CompanyField::CompanyName, u"Bench Software");
+    c.setText(CompanyField::Address1, u"1 Long Road");
+    return c;
+}
+
+ProgramRecord sampleProgram() {
+    ProgramRecord p;
+    p.setText(ProgramField::ProgramName, u"Bench Tool");
+    p.setText(ProgramField::ProgramVersion, u"3.1");
+    for (int i = 0; i < 9; ++i) {
+        p.setNumber(ProgramField::DescriptionActive, 1, i);
+        p.setText(ProgramField::CharDesc2000, QString(1800, u'x'), i);
+    }
+    p.setNumber(ProgramField::OSSupported, -1, 6);
+    return p;
+}
+
+// A real document with a block of unknown elements (as download sites add) grown to 20 MB.
+QByteArray largePadFile() {
+    QString doc = CreatePADText(sampleCompany(), sampleProgram());
+    QString block = QStringLiteral("<Affiliates>\r\n");
+    int n = 0;
+    while (block.size() + doc.size() < kLargeFile)
+        block +=
+            QStringLiteral(
+                "  <Affiliate_%1_Order_Page>http://shop.example/%1</Affiliate_%1_Order_Page>\r\n"
+                "  <Affiliate_%1_Vendor_ID />\r\n")
+                .arg(++n);
+    block += QStringLiteral("</Affiliates>\r\n");
+    doc.insert(doc.indexOf(QStringLiteral("</XML_DIZ_INFO>")), block);
+    return toWin1252(doc);
+}
+
+void BM_ImportLargePadFile(benchmark::State& state) {
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("large.xml"));
+    const QByteArray bytes = largePadFile();
+    QFile f(path);
+    f.open(QIODevice::WriteOnly);
+    f.write(bytes);
+    f.close();
+    cli::AutoPrompts prompts;
+    for (auto _ : state) {
+        state.PauseTiming();
+        QTemporaryDir home;
+        RecordStore store{AppHome(home.path())};
+        store.home().createFolders();
+        EditingSession session(store, prompts);
+        session.Start();
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(importPadFile(session, path));
+    }
+    state.SetBytesProcessed(state.iterations() * bytes.size());
+}
+BENCHMARK(BM_ImportLargePadFile)->Unit(benchmark::kMillisecond);
+
+// Text that defeats a naive scanner: a tag per few bytes and no closing tag until the end.
+void BM_ScanManyOpeningTags(benchmark::State& state) {
+    QString text = QStringLiteral("<?xml version=\"1.0\"?>");
+    while (text.size() < kLargeFile)
+        text += QStringLiteral("<a>text ");
+    text += QStringLiteral("</a>");
+    for (auto _ : state) {
+        int visited = 0;
+        scanPadTags(text, [&](QStringView, QStringView, int) { ++visited; });
+        benchmark::DoNotOptimize(visited);
+    }
+    state.SetBytesProcessed(state.iterations() * text.size() * 2);
+}
+BENCHMARK(BM_ScanManyOpeningTags)->Unit(benchmark::kMillisecond);
+
+void BM_Write10000PadDocuments(benchmark::State& state) {
+    const CompanyRecord c = sampleCompany();
+    const ProgramRecord p = sampleProgram();
+    for (auto _ : state) {
+        qsizetype total = 0;
+        for (int i = 0; i < 10000; ++i)
+            total += toWin1252(CreatePADText(c, p)).size();
+        benchmark::DoNotOptimize(total);
+    }
+}
+BENCHMARK(BM_Write10000PadDocuments)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
