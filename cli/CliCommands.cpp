@@ -14,6 +14,9 @@ const std::vector<CliCommand>& cliCommands() {
         {"webinfo", "webinfo -c COMPANY -p PROGRAM", webinfoCommand},
         {"verify", "verify -c COMPANY -p PROGRAM [-o FILE]", verifyCommand},
         {"import", "import FILE...", importCommand},
+        {"keywords", "keywords (URL | --file FILE)", keywordsCommand},
+        {"sites", "sites (URL | --file FILE)", sitesCommand},
+        {"encipher-sites", "encipher-sites  < plain name|url lines", encipherSitesCommand},
     };
     return commands;
 }

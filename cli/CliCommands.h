@@ -30,4 +30,8 @@ int padCommand(CliContext& ctx, const QStringList& words);
 int webinfoCommand(CliContext& ctx, const QStringList& words);
 int verifyCommand(CliContext& ctx, const QStringList& words);
 int importCommand(CliContext& ctx, const QStringList& words);
+// Network commands.
+int keywordsCommand(CliContext& ctx, const QStringList& words);
+int sitesCommand(CliContext& ctx, const QStringList& words);
+int encipherSitesCommand(CliContext& ctx, const QStringList& words);
 } // namespace brevaro::cli

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <unordered_map>
+#include <vector>
+
+namespace brevaro {
+
+// One counted word: the word as first met, its count and whether it is ticked.
+struct KeywordEntry {
+    QString word;
+    int count = 0;
+    bool ticked = false;
+    int firstSeen = 0;
+
+    // "001" to "999", then "1000" and on.
+    QString countText() const;
+};
+
+// The word list of the keyword suggester. While counting it is ordered by count, highest
+// first, ties in order of first appearance; FindWord is a prefix search in that order,
+// answered from a case-folded prefix tree so that counting stays linear in the page.
+class KeywordList {
+public:
+    KeywordList();
+
+    void clear();
+    // Cuts the text into pieces at blanks and counts each; the text after the last blank
+    // is not counted. pump, when set, runs now and then so a window stays responsive.
+    void SplitWords(QStringView buffer, const std::function<void()>& pump = {});
+    void CountWord(QStringView piece);
+    // The word left after removing punctuation, or empty for numbers, markup and stop words.
+    static QString CleanWord(QStringView piece);
+    // Index (in list order) of the first entry that begins with word, case ignored; -1.
+    int FindWord(QStringView word) const;
+    // Ticks every entry counted three times or more.
+    void CheckFrequentWords();
+    // The ticked words in list order, joined by ", ", at most 128 characters; current when
+    // no ticked word fits.
+    QString RebuildKeywords(const QString& current) const;
+
+    // Sorting by a column header: 0 the word (ascending), 1 the count (descending).
+    void sortByColumn(int column);
+    int sortColumn() const { return m_sortColumn; }
+
+    // The entries in list order.
+    std::vector<KeywordEntry> entries() const;
+    int size() const { return static_cast<int>(m_entries.size()); }
+    void setTicked(int index, bool ticked);
+
+private:
+    struct Node {
+        int parent = -1;
+        int best = -1;         // entry with the highest count in this subtree, earliest on a tie
+        std::vector<int> deep; // entries longer than the tree's depth that end below here
+    };
+    bool beats(int a, int b) const;
+    int nodeFor(int parent, char16_t c, bool create);
+    int findEntry(QStringView folded) const;
+    void addToTree(int entry, const QString& folded);
+    void raiseInTree(int entry);
+    std::vector<int> order() const;
+
+    std::vector<KeywordEntry> m_entries;
+    std::vector<QString> m_folded;
+    std::vector<Node> m_nodes;
+    std::unordered_map<quint64, int> m_edges;
+    std::vector<int> m_entryNode;
+    // Words met before map straight to their node, so a repeated word is one lookup.
+    mutable QHash<QString, int> m_knownPrefixes;
+    int m_sortColumn = 1;
+};
+
+} // namespace brevaro

@@ -1,0 +1,84 @@
+#include "keywords/KeywordSuggester.h"
+
+#include "mainwindow/EditingSession.h"
+#include "platform/HttpTransfer.h"
+#include "platform/StringHelpers.h"
+
+namespace brevaro {
+
+KeywordSuggester::KeywordSuggester(HttpTransfer& http, QObject* parent)
+    : QObject(parent)
+    , m_http(http) {
+    connect(&m_http, &HttpTransfer::connected, this,
+            [this] { simpleText(QStringLiteral("Connected, Wait ...")); });
+    connect(&m_http, &HttpTransfer::transferStarted, this,
+            [this] { simpleText(QStringLiteral("Transfer Started ...")); });
+    connect(&m_http, &HttpTransfer::dataReceived, this, [this](int, qint64, const QString& chunk) {
+        simpleText(chunk.left(200));
+        m_buffer += chunk;
+    });
+    connect(&m_http, &HttpTransfer::transferEnded, this,
+            [this] { simpleText(QStringLiteral("Transfer Ended ...")); });
+    connect(&m_http, &HttpTransfer::disconnected, this,
+            [this] { simpleText(QStringLiteral("Disconnected, Done ...")); });
+}
+
+KeywordSuggester::KeywordSuggester(EditingSession& session, HttpTransfer& http, QObject* parent)
+    : KeywordSuggester(http, parent) {
+    m_session = &session;
+    caption = QStringLiteral("Suggesting Keywords for: ") + session.text(u"cboProgramName");
+    url = session.text(u"txtApplicationHomeURL");
+}
+
+QString KeywordSuggester::instructions() {
+    return QStringLiteral(
+        "1. Check Homepage\r\n\r\n2. Most common words are\r\n     suggested for keywords.\r\n\r\n"
+        "3. You select in the list the\r\n     words you want to use\r\n\r\n"
+        "4. Click Re-Build Keywords\r\n\r\n5. Click OK to copy to\r\n     product page\r\n");
+}
+
+void KeywordSuggester::simpleText(const QString& text) {
+    status = text;
+    emit changed();
+}
+
+void KeywordSuggester::checkHomepage() {
+    m_list.clear();
+    m_buffer.clear();
+    m_http.reset();
+    m_http.setUrl(url);
+    m_http.fetch();
+    count();
+}
+
+void KeywordSuggester::checkPage(const QString& page) {
+    m_list.clear();
+    m_buffer = page;
+    count();
+}
+
+void KeywordSuggester::count() {
+    m_list.SplitWords(m_buffer, [this] {
+        if (m_session)
+            m_session->prompts().pumpEvents();
+    });
+    m_list.CheckFrequentWords();
+    rebuild();
+}
+
+void KeywordSuggester::rebuild() {
+    keywords = m_list.RebuildKeywords(keywords);
+    emit changed();
+}
+
+void KeywordSuggester::accept() {
+    if (!m_session || trimBlanks(keywords).isEmpty())
+        return;
+    m_session->setText(u"txtKeywords", keywords, m_session->selectedLanguage());
+}
+
+void KeywordSuggester::cancel() {
+    m_http.stop();
+}
+
+} // namespace brevaro

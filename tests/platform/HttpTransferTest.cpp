@@ -1,0 +1,119 @@
+#include "platform/HttpTransfer.h"
+#include "LocalHttpServer.h"
+#include "TestSupport.h"
+
+#include <gtest/gtest.h>
+
+using namespace brevaro;
+using namespace brevaro::test;
+
+namespace {
+
+// Records the events of one transfer, in order, and the text received.
+struct Recorder {
+    QStringList events;
+    QString text;
+    explicit Recorder(HttpTransfer& http) {
+        QObject::connect(&http, &HttpTransfer::connected, [this](int s, const QString&) {
+            events << QStringLiteral("connected %1").arg(s);
+        });
+        QObject::connect(&http, &HttpTransfer::transferStarted,
+                         [this](int) { events << QStringLiteral("started"); });
+        QObject::connect(&http, &HttpTransfer::dataReceived,
+                         [this](int, qint64, const QString& chunk) {
+                             if (events.isEmpty() || events.back() != QLatin1String("data"))
+                                 events << QStringLiteral("data");
+                             text += chunk;
+                         });
+        QObject::connect(&http, &HttpTransfer::transferEnded,
+                         [this](int) { events << QStringLiteral("ended"); });
+        QObject::connect(&http, &HttpTransfer::disconnected,
+                         [this](int, const QString&) { events << QStringLiteral("disconnected"); });
+    }
+};
+
+} // namespace
+
+TEST(HttpTransfer, EventsInOrderAndTextDecoded) {
+    LocalHttpServer server;
+    server.route("/latin1",
+                 {200, "text/html; charset=ISO-8859-1", "caf\xE9 au lait", {}, false, 0});
+    server.route(
+        "/meta",
+        {200, "text/html", "<html><meta charset=\"windows-1252\">\x80 euro", {}, false, 0});
+    server.route("/bom", {200, "text/plain", "\xEF\xBB\xBFna\xC3\xAFve", {}, false, 0});
+    server.route("/plain1252", {200, "text/plain", "na\xEFve", {}, false, 0});
+    server.route("/moved", {302, "text/plain", "", "/latin1", false, 0});
+    HttpTransfer http;
+    Recorder r(http);
+    struct Case {
+        const char* path;
+        QString text;
+    };
+    const Case cases[] = {
+        {"/latin1", QStringLiteral("caf\u00e9 au lait")},
+        {"/meta", QStringLiteral("<html><meta charset=\"windows-1252\">\u20ac euro")},
+        {"/bom", QStringLiteral("na\u00efve")},
+        {"/plain1252", QStringLiteral("na\u00efve")},
+        {"/moved", QStringLiteral("caf\u00e9 au lait")}};
+    for (const Case& c : cases) {
+        r.events.clear();
+        r.text.clear();
+        http.setUrl(server.url(c.path));
+        http.fetch();
+        EXPECT_EQ(r.events, (QStringList{QStringLiteral("connected 200"), QStringLiteral("started"),
+                                         QStringLiteral("data"), QStringLiteral("ended"),
+                                         QStringLiteral("disconnected")}))
+            << c.path;
+        EXPECT_EQ(r.text, c.text) << c.path;
+        EXPECT_TRUE(http.succeeded());
+    }
+}
+
+TEST(HttpTransfer, LocalFileKeepsTheBodyBytes) {
+    LocalHttpServer server;
+    server.route("/data.txt", {200, "text/plain", "one\ntwo\nthree", {}, false, 0});
+    TempHome t;
+    const QString target = t.file(QStringLiteral("share/data.txt"));
+    HttpTransfer http;
+    http.setLocalFile(target);
+    http.setUrl(server.url("/data.txt"));
+    http.fetch();
+    EXPECT_EQ(readBytes(target), QByteArray("one\ntwo\nthree"));
+}
+
+// Failures end cleanly: the fetch returns, disconnected is raised, no transfer-ended event,
+// and a local file keeps what it held before.
+TEST(HttpTransfer, FailuresEndCleanlyAndKeepOldFiles) {
+    LocalHttpServer server;
+    server.route("/stall", {200, "text/plain", {}, {}, true, 0});
+    server.route("/huge", {200, "application/octet-stream", {}, {}, false, 100LL * 1024 * 1024});
+    server.route("/missing", {404, "text/plain", "gone", {}, false, 0});
+    QTcpServer closed;
+    closed.listen(QHostAddress::LocalHost, 0);
+    const QString refused = QStringLiteral("http://127.0.0.1:%1/x").arg(closed.serverPort());
+    closed.close();
+
+    TempHome t;
+    const QString target = t.file(QStringLiteral("kept.txt"));
+    HttpTransfer http;
+    http.setLimits(400, 1024 * 1024);
+    Recorder r(http);
+    for (const QString& url :
+         {refused, server.url("/stall"), server.url("/huge"), server.url("/missing"),
+          QStringLiteral("not a url at all"), QString()}) {
+        writeBytes(target, "old contents");
+        r.events.clear();
+        http.setLocalFile(target);
+        http.setUrl(url);
+        http.fetch();
+        EXPECT_FALSE(http.succeeded()) << url.toStdString();
+        EXPECT_FALSE(http.errorString().isEmpty());
+        EXPECT_EQ(r.events.back(), QStringLiteral("disconnected")) << url.toStdString();
+        EXPECT_FALSE(r.events.contains(QStringLiteral("ended"))) << url.toStdString();
+        EXPECT_EQ(readBytes(target), QByteArray("old contents")) << url.toStdString();
+    }
+    // The large answer was cut at the limit, not read to its end.
+    EXPECT_LT(server.bytesSent(), 100LL * 1024 * 1024);
+    EXPECT_LE(r.text.size(), 1024 * 1024);
+}
