@@ -1,7 +1,6 @@
 // Keyword counting on a generated page, beside a plain word count of the same text.
 #include "keywords/KeywordList.h"
 
-#include <QCoreApplication>
 #include <QHash>
 #include <QRandomGenerator>
 #include <benchmark/benchmark.h>
@@ -60,11 +59,3 @@ void BM_PlainWordCount(benchmark::State& state) {
 BENCHMARK(BM_PlainWordCount)->Arg(10)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    QCoreApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

@@ -6,7 +6,6 @@
 #include "pad/PadText.h"
 #include "records/Win1252.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
@@ -104,11 +103,3 @@ void BM_Write10000PadDocuments(benchmark::State& state) {
 BENCHMARK(BM_Write10000PadDocuments)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    QCoreApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

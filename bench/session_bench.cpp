@@ -2,7 +2,6 @@
 #include "AutoPrompts.h"
 #include "mainwindow/EditingSession.h"
 
-#include <QCoreApplication>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
@@ -77,11 +76,3 @@ void BM_SelectCompanyWith1000Programs(benchmark::State& state) {
 BENCHMARK(BM_SelectCompanyWith1000Programs)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    QCoreApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

@@ -540,6 +540,58 @@ void commandControls(TableBuilder& t) {
     t.add("Command1", K::Button).caption("Test Download Banners");
 }
 
+// Frames and field labels: only captions, for the view to show.
+void frameControls(TableBuilder& t) {
+    const std::pair<const char*, const char*> frames[] = {
+        {"Frame1", "Company"},
+        {"Frame2", "Author"},
+        {"Frame3", "Contact"},
+        {"Frame4", "Support Info"},
+        {"Frame5", "Email Addresses"},
+        {"Frame6", "Phone Numbers"},
+        {"Frame7", "Program Info"},
+        {"Frame8", "File Info"},
+        {"Frame9", ""},
+        {"Frame10", "Misc Info"},
+        {"Frame11", "General URL Info"},
+        {"Frame12", "Download URL Info"},
+        {"Frame13", "Distribution Agreements"},
+        {"Frame14", "End User License Agreement"},
+        {"Frame15", "Member Info"},
+        {"Frame16", "Member Info"},
+        {"Frame17", "Member Info"},
+        {"Frame18", "Member Info"},
+        {"frmDescr1", ""},
+        {"frmCopyright", ""},
+        {"lbl45char", "45 Char:"},
+        {"lbl80char", "80 Char:"},
+        {"lbl250char", "250 Char:"},
+        {"lbl450char", "450 Char:"},
+        {"lbl2000char", "2000 Char:"},
+        {"lblKeywords", "Keywords:"},
+        {"lblReleaseDate", "Release Date  M:        D:        Y:"},
+        {"lblIncludes", "Includes"}};
+    for (const auto& [name, caption] : frames)
+        t.add(name, K::Label).caption(caption);
+    for (int i = 0; i < 9; ++i)
+        t.add("frmDescriptions", K::Label, i);
+    for (int i = 0; i < 3; ++i)
+        t.add("frmOrganization", K::Label, i);
+    const char* titles[] = {"Association of Shareware Professional's PAD Extension Form",
+                            "Educational Software Cooperative's PAD Extension Form",
+                            "MSN's XML DIZ Extensions Form",
+                            "Trialware Professional Association's PAD Extension Form"};
+    for (int i = 0; i < 4; ++i)
+        t.add("lblExtensionTitle", K::Label, i).caption(titles[i]);
+    t.add("lblMSNNote", K::Label)
+        .caption("The MSN Shareware Forum only accept 32-bit applications.");
+    t.add("lblTPANote", K::Label)
+        .caption(
+            "I would like this software to be described by the following trialware license type:");
+    t.add("picClickNextBanner", K::Button);
+    t.add("AniGifEx1", K::Button);
+}
+
 void labelControls(TableBuilder& t) {
     t.add("frmStart", K::Form);
     t.add("StatusBar1", K::StatusBar);
@@ -574,6 +626,7 @@ std::vector<ControlSpec> buildTable() {
     webAndAssociationControls(t);
     commandControls(t);
     labelControls(t);
+    frameControls(t);
     return t.take();
 }
 

@@ -44,9 +44,13 @@ void EditingSession::runCommand(SessionCommand command) {
         return;
     }
     static const std::map<SessionCommand, const char*> names = {
-        {SessionCommand::VerifyPAD, "Verify PAD"},        {SessionCommand::CreatePAD, "Create PAD"},
-        {SessionCommand::ImportPAD, "Import PAD"},        {SessionCommand::Submit, "Submit"},
-        {SessionCommand::Keywords, "Keyword suggestion"}, {SessionCommand::About, "About"}};
+        {SessionCommand::VerifyPAD, "Verify PAD"},
+        {SessionCommand::CreatePAD, "Create PAD"},
+        {SessionCommand::ImportPAD, "Import PAD"},
+        {SessionCommand::Submit, "Submit"},
+        {SessionCommand::Keywords, "Keyword suggestion"},
+        {SessionCommand::About, "About"},
+        {SessionCommand::DownloadBanners, "Banner download"}};
     const QString name = QLatin1String(names.at(command));
     SimpleText(name + QStringLiteral(" is not available yet."));
     m_prompts.message(QLatin1String(kAppTitle),
@@ -317,6 +321,8 @@ void EditingSession::onClick(int control) {
         permissionFile(s.index);
     else if (s.name == QLatin1String("picKeywordsGenerator"))
         runCommand(SessionCommand::Keywords);
+    else if (s.name == QLatin1String("Command1"))
+        runCommand(SessionCommand::DownloadBanners);
     else
         openLink(m_prompts, s.name, s.index, m_company, m_appVersionText);
 }
@@ -381,6 +387,17 @@ void EditingSession::openUrlOf(QStringView control) {
     const QString url = text(control);
     if (!url.isEmpty())
         m_prompts.openDocument(url);
+}
+
+bool EditingSession::confirmDelete(const QString& name) {
+    return m_prompts.askYesNo(QStringLiteral("Delete ") + name,
+                              QStringLiteral("Do you want to delete ") + name + u'?',
+                              Prompts::Icon::Question);
+}
+
+void EditingSession::reportDeleteFailure(const QString& name) {
+    m_prompts.message(QStringLiteral("Delete ") + name,
+                      name + QStringLiteral(" could not be deleted.\n\n") + m_store.errorString());
 }
 
 void EditingSession::reportWriteFailure(const QString& what) {

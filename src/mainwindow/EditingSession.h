@@ -14,7 +14,15 @@
 namespace brevaro {
 
 // Commands that other parts of the program provide to the main window.
-enum class SessionCommand { VerifyPAD, CreatePAD, ImportPAD, Submit, Keywords, About };
+enum class SessionCommand {
+    VerifyPAD,
+    CreatePAD,
+    ImportPAD,
+    Submit,
+    Keywords,
+    About,
+    DownloadBanners
+};
 
 // The main window without widgets: one current company and program, the screen model that
 // shows them, the modified state, and every command of the button bar and the menus. The
@@ -147,6 +155,8 @@ private:
     void permissionFile(int i);
     void openUrlOf(QStringView control);
     void reportWriteFailure(const QString& what);
+    bool confirmDelete(const QString& name);
+    void reportDeleteFailure(const QString& name);
     template <typename Fn> void forEachControl(RecordSide side, Fn fn);
 
     RecordStore& m_store;

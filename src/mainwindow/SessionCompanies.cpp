@@ -118,18 +118,14 @@ void EditingSession::DeleteCompany() {
     if (selector.items.isEmpty() || trimBlanks(selector.text).isEmpty())
         return;
     const QString name = m_company.trimText(CompanyField::CompanyName);
-    if (!m_prompts.askYesNo(QStringLiteral("Delete ") + name,
-                            QStringLiteral("Do you want to delete ") + name + u'?',
-                            Prompts::Icon::Question))
+    if (!confirmDelete(name))
         return;
     if (!m_store.companyFile().exists())
         return;
     const int doomed = CurrentCompanyNo;
     // A new company that was never saved has nothing on disk to remove.
     if (doomed <= GetCompanyCount() && !m_store.deleteCompany(doomed)) {
-        m_prompts.message(QStringLiteral("Delete ") + name,
-                          name + QStringLiteral(" could not be deleted.\n\n") +
-                              m_store.errorString());
+        reportDeleteFailure(name);
         return;
     }
     NewCompanyPending = false;

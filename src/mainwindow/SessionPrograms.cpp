@@ -135,18 +135,14 @@ void EditingSession::DeleteProgram() {
     if (m_screen.at(u"cboProgramName").items.isEmpty())
         return;
     const QString name = m_program.trimText(ProgramField::ProgramName);
-    if (!m_prompts.askYesNo(QStringLiteral("Delete ") + name,
-                            QStringLiteral("Do you want to delete ") + name + u'?',
-                            Prompts::Icon::Question))
+    if (!confirmDelete(name))
         return;
     const int companyId = companyIdOf(m_company);
     if (!m_store.programFile(companyId).exists())
         return;
     const int doomed = CurrentProgramNo;
     if (doomed >= 1 && doomed <= GetProgramCount() && !m_store.deleteProgram(companyId, doomed)) {
-        m_prompts.message(QStringLiteral("Delete ") + name,
-                          name + QStringLiteral(" could not be deleted.\n\n") +
-                              m_store.errorString());
+        reportDeleteFailure(name);
         return;
     }
     NewProgramPending = false;

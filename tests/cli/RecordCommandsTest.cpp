@@ -181,3 +181,36 @@ TEST(CliRecords, SetFileInfoMeasuresTheDistributionFile) {
         runCliIn(t, args({"set", "-c", "1", "-p", "1", "--file-info", "/no/such/file"}));
     EXPECT_EQ(missing.status, 2);
 }
+
+TEST(CliRecords, ShowsRecordsWrittenByAnotherProgram) {
+    TempHome t;
+    // One company and one program, laid out byte by byte as the record tables describe.
+    QByteArray company(842, ' ');
+    company.replace(0, 4, QByteArray("\x01\x00\x00\x00", 4));
+    company.replace(4, 9, "Foreign Co");
+    company.replace(184, 7, "Germany");
+    QByteArray program(32319, ' ');
+    const std::pair<int, int> numeric[] = {{0, 4},    {140, 54},  {194, 18},   {410, 2},  {422, 8},
+                                           {975, 24}, {32228, 4}, {32257, 12}, {32267, 2}};
+    for (auto [offset, size] : numeric)
+        program.replace(offset, size, QByteArray(size, '\0'));
+    program[0] = 1;
+    program.replace(4, 6, "Import");
+    program.replace(44, 3, "2.0");
+    program[140 + 2 * 10] = program[140 + 2 * 10 + 1] = '\xFF'; // Linux
+    program[981] = 1;                                           // English active
+    program.replace(2151 + 45 * 3, 6, "German");                // CharDesc45[3]
+    writeBytes(t.file(QStringLiteral("data/company.dta")), company);
+    // A crash during an earlier save left its temporary file beside the real one.
+    writeBytes(t.file(QStringLiteral("data/company.dta.Xy12Ab")), company.left(100));
+    writeBytes(t.file(QStringLiteral("data/1.dta")), program);
+    const QJsonObject json = showJson(t, args({"-c", "Foreign Co"}));
+    const QJsonObject c = json[QStringLiteral("company")].toObject();
+    const QJsonObject p = json[QStringLiteral("program")].toObject();
+    EXPECT_EQ(c[QStringLiteral("CompanyID")].toInt(), 1);
+    EXPECT_EQ(c[QStringLiteral("Country")].toString(), QStringLiteral("Germany"));
+    EXPECT_EQ(p[QStringLiteral("ProgramVersion")].toString(), QStringLiteral("2.0"));
+    EXPECT_EQ(p[QStringLiteral("OSSupported")].toArray()[10].toInt(), -1);
+    EXPECT_EQ(p[QStringLiteral("CharDesc45")].toArray()[3].toString(), QStringLiteral("German"));
+    EXPECT_EQ(p[QStringLiteral("DescriptionActive")].toArray()[0].toInt(), 1);
+}
