@@ -56,7 +56,7 @@ Target resolve(EditingSession& s, const FieldAssignment& a, bool haveProgram) {
         throw CliError{2, QStringLiteral("%1 has no entry %2").arg(a.name).arg(a.index)};
     t.entry = std::max(0, a.index);
     for (int id = 0; id < s.screen().count(); ++id) {
-        const ControlSpec& c = s.spec(id);
+        const ControlSpec& c = s.row(id);
         if (c.side != t.side || c.field != t.field)
             continue;
         if (c.kind == ControlKind::ListBox && t.entry < s.screen().at(id).items.size())

@@ -657,12 +657,12 @@ const QStringList& languageTabCaptions() {
     return captions;
 }
 
-bool isExpiryGroup(const ControlSpec& spec) {
+bool isExpiryGroup(const ControlSpec& row) {
     static const QStringList group = {
         QStringLiteral("txtExpireAfter"), QStringLiteral("optExpire"),
         QStringLiteral("cboExpireMonth"), QStringLiteral("cboExpireDay"),
         QStringLiteral("cboExpireYear"),  QStringLiteral("txtExpireInfo")};
-    return group.contains(spec.name);
+    return group.contains(row.name);
 }
 
 } // namespace brevaro

@@ -40,6 +40,6 @@ const QStringList& mainTabCaptions();
 const QStringList& languageTabCaptions();
 
 // The controls of the expiry group, enabled only while the product expires.
-bool isExpiryGroup(const ControlSpec& spec);
+bool isExpiryGroup(const ControlSpec& row);
 
 } // namespace brevaro

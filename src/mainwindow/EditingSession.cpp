@@ -111,8 +111,8 @@ void EditingSession::LoadValueLists() {
 
 void EditingSession::SetToolTips() {
     for (int i = 0; i < m_screen.count(); ++i)
-        if (!spec(i).toolTip.isEmpty())
-            m_screen.setToolTip(i, spec(i).toolTip);
+        if (!row(i).toolTip.isEmpty())
+            m_screen.setToolTip(i, row(i).toolTip);
     m_screen.setCaption(id(u"lblCopyright"), copyrightLine());
     for (int i = 0; i < 3; ++i)
         m_screen.setCaption(id(u"lblOrganization", i), organizationSite(i));
@@ -257,7 +257,7 @@ void EditingSession::tabSelected() {
 }
 
 void EditingSession::onChange(int control) {
-    const ControlSpec& s = spec(control);
+    const ControlSpec& s = row(control);
     if (s.limit > 0)
         limitField(control, false);
     if (s.markOn & kMarkOnChange) {
@@ -269,7 +269,7 @@ void EditingSession::onChange(int control) {
 }
 
 void EditingSession::onClick(int control) {
-    const ControlSpec& s = spec(control);
+    const ControlSpec& s = row(control);
     if (s.name == QLatin1String("cboCompanyName"))
         return companySelected();
     if (s.name == QLatin1String("cboProgramName"))

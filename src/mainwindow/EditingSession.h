@@ -33,7 +33,8 @@ public:
     EditingSession(RecordStore& store, Prompts& prompts, QObject* parent = nullptr);
 
     ScreenModel& screen() { return m_screen; }
-    const ControlSpec& spec(int id) const { return m_controls[static_cast<std::size_t>(id)]; }
+    // The control table row of control id.
+    const ControlSpec& row(int id) const { return m_controls[static_cast<std::size_t>(id)]; }
     RecordStore& store() { return m_store; }
     Prompts& prompts() { return m_prompts; }
     CompanyRecord& company() { return m_company; }

@@ -17,7 +17,7 @@ int EditingSession::selectedLanguage() const {
 // Cuts a field's text at its limit and counts it; on a change the caret goes to the end when
 // the limit is reached, on focus always (txtASP_MemberNo only at the limit).
 void EditingSession::limitField(int control, bool onFocus) {
-    const ControlSpec& s = spec(control);
+    const ControlSpec& s = row(control);
     const QString cut = ShowCharCount(m_screen.at(control).text, s.limit);
     m_screen.setText(control, cut);
     const bool atLimit = cut.size() == s.limit;
@@ -26,7 +26,7 @@ void EditingSession::limitField(int control, bool onFocus) {
 }
 
 void EditingSession::showFocusHint(int control) {
-    const ControlSpec& s = spec(control);
+    const ControlSpec& s = row(control);
     const ControlState& c = m_screen.at(control);
     switch (s.hint) {
     case FocusHint::Counter:

@@ -6,8 +6,8 @@ namespace brevaro {
 
 template <typename Fn> void EditingSession::forEachControl(RecordSide side, Fn fn) {
     for (int i = 0; i < m_screen.count(); ++i)
-        if (spec(i).side == side)
-            fn(i, spec(i));
+        if (row(i).side == side)
+            fn(i, row(i));
 }
 
 namespace {

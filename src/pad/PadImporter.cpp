@@ -323,7 +323,7 @@ bool ReadPADFile(EditingSession& session, const QString& text) {
         const bool names = found->action == Action::Company || found->action == Action::Program;
         if (names && value.isEmpty())
             return; // an empty name would blank the shown record's name
-        const ControlSpec& target = session.spec(session.screen().id(
+        const ControlSpec& target = session.row(session.screen().id(
             QStringView(found->control), found->action == Action::Description ? 0
                                          : found->action == Action::Expire    ? 0
                                                                               : -1));

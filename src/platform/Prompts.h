@@ -26,8 +26,8 @@ public:
     virtual std::optional<QString> inputBox(const QString& prompt, const QString& title,
                                             const QString& defaultText) = 0;
     // File dialogs; nothing when cancelled.
-    virtual std::optional<QString> openFile(const FileDialogSpec& spec) = 0;
-    virtual std::optional<QString> saveFile(const FileDialogSpec& spec) = 0;
+    virtual std::optional<QString> openFile(const FileDialogSpec& dialog) = 0;
+    virtual std::optional<QString> saveFile(const FileDialogSpec& dialog) = 0;
     virtual void message(const QString& title, const QString& text) = 0;
     virtual void beep() = 0;
     virtual QString clipboardText() = 0;

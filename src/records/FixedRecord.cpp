@@ -35,13 +35,13 @@ void FixedRecord::setBytes(const QByteArray& bytes) {
     m_bytes.replace(0, bytes.size(), bytes);
 }
 
-const FieldSpec& FixedRecord::spec(int field) const {
+const FieldSpec& FixedRecord::fieldAt(int field) const {
     Q_ASSERT(field >= 0 && field < static_cast<int>(m_layout->fields.size()));
     return m_layout->fields[static_cast<std::size_t>(field)];
 }
 
 QString FixedRecord::rawText(int field, int index) const {
-    const FieldSpec& f = spec(field);
+    const FieldSpec& f = fieldAt(field);
     Q_ASSERT(f.isText() && index >= 0 && index < f.count);
     return fromWin1252(m_bytes.constData() + f.entryOffset(index), f.width);
 }
@@ -51,7 +51,7 @@ QString FixedRecord::text(int field, int index) const {
 }
 
 void FixedRecord::setText(int field, QStringView value, int index) {
-    const FieldSpec& f = spec(field);
+    const FieldSpec& f = fieldAt(field);
     Q_ASSERT(f.isText() && index >= 0 && index < f.count);
     char* dst = m_bytes.data() + f.entryOffset(index);
     const qsizetype n = std::min<qsizetype>(value.size(), f.width);
@@ -68,7 +68,7 @@ QString FixedRecord::trimText(int field, int index) {
 }
 
 int FixedRecord::number(int field, int index) const {
-    const FieldSpec& f = spec(field);
+    const FieldSpec& f = fieldAt(field);
     Q_ASSERT(!f.isText() && index >= 0 && index < f.count);
     const char* src = m_bytes.constData() + f.entryOffset(index);
     if (f.type == FieldType::Int32)
@@ -77,7 +77,7 @@ int FixedRecord::number(int field, int index) const {
 }
 
 void FixedRecord::setNumber(int field, int value, int index) {
-    const FieldSpec& f = spec(field);
+    const FieldSpec& f = fieldAt(field);
     Q_ASSERT(!f.isText() && index >= 0 && index < f.count);
     char* dst = m_bytes.data() + f.entryOffset(index);
     if (f.type == FieldType::Int32)

@@ -40,7 +40,7 @@ protected:
     void resetToEmpty() { m_bytes = emptyBytes(*m_layout); }
 
 private:
-    const FieldSpec& spec(int field) const;
+    const FieldSpec& fieldAt(int field) const;
 
     const RecordLayout* m_layout;
     QByteArray m_bytes;

@@ -39,12 +39,12 @@ public:
         asked << title + u'|' + prompt;
         return next(inputs, prompt);
     }
-    std::optional<QString> openFile(const FileDialogSpec& spec) override {
-        dialogs << spec;
+    std::optional<QString> openFile(const FileDialogSpec& dialog) override {
+        dialogs << dialog;
         return next(files, QStringLiteral("open dialog"));
     }
-    std::optional<QString> saveFile(const FileDialogSpec& spec) override {
-        dialogs << spec;
+    std::optional<QString> saveFile(const FileDialogSpec& dialog) override {
+        dialogs << dialog;
         return next(files, QStringLiteral("save dialog"));
     }
     void message(const QString& title, const QString& text) override {
