@@ -13,6 +13,7 @@ namespace brevaro {
 namespace {
 
 constexpr auto kMovingSuffix = ".moving";
+constexpr auto kDoomedSuffix = ".doomed";
 
 QStringList trimmedNames(const std::vector<QByteArray>& slices) {
     QStringList names;
@@ -92,8 +93,13 @@ bool RecordStore::deleteProgram(int companyId, int n) {
     return true;
 }
 
-// A company deletion is a list of steps kept in an intent file until the last one is done,
-// so that a crash part-way is completed on the next start. Every step can be run twice.
+// A company deletion is a list of steps in four phases, kept in an intent file until the
+// last phase is done, so that a crash part-way is completed on the next start. Within a
+// phase every step can be run again; the phase number is recorded as each phase ends.
+//   0 compact  the company file without the company, the later ones renumbered
+//   1 doom     its program file set aside; stage: the later companies' files set aside
+//   2 remove   its program file deleted
+//   3 finish   each set-aside file under its new number, its programs restamped
 bool RecordStore::deleteCompany(int n) {
     const int count = companyCount();
     if (n < 1 || n > count) {
@@ -105,14 +111,16 @@ bool RecordStore::deleteCompany(int n) {
     for (const auto& slice : companyFile().readSlices(idField.offset, idField.size()))
         ids.push_back(qFromLittleEndian<qint32>(slice.constData()));
 
+    const QString doomed = programFileName(ids[std::size_t(n - 1)]);
     QStringList steps{QStringLiteral("compact %1 %2").arg(n).arg(count),
-                      QStringLiteral("remove ") + programFileName(ids[std::size_t(n - 1)])};
+                      QStringLiteral("doom ") + doomed};
     QStringList finishing;
     for (int k = n + 1; k <= count; ++k) {
         const QString source = programFileName(ids[std::size_t(k - 1)]);
         steps << QStringLiteral("stage ") + source;
         finishing << QStringLiteral("finish %1 %2").arg(source).arg(k - 1);
     }
+    steps << QStringLiteral("remove ") + doomed;
     steps += finishing;
     if (!saveIntent(steps, 0))
         return false;
@@ -129,18 +137,18 @@ bool RecordStore::completeInterruptedDeletion() {
     }
     QStringList lines = QString::fromUtf8(intent.readAll()).split(u'\n', Qt::SkipEmptyParts);
     intent.close();
-    if (lines.isEmpty() || !lines.front().startsWith(QStringLiteral("next "))) {
+    if (lines.isEmpty() || !lines.front().startsWith(QStringLiteral("phase "))) {
         m_error = QStringLiteral("the deletion record %1 is damaged").arg(intent.fileName());
         return false;
     }
-    const int next = lines.takeFirst().mid(5).toInt();
-    return runDeletion(lines, next);
+    const int phase = lines.takeFirst().mid(6).toInt();
+    return runDeletion(lines, phase);
 }
 
-bool RecordStore::saveIntent(const QStringList& steps, int next) {
+bool RecordStore::saveIntent(const QStringList& steps, int phase) {
     QSaveFile out(m_home.deletionIntentFile());
     const QByteArray text =
-        (QStringLiteral("next %1\n").arg(next) + steps.join(u'\n') + u'\n').toUtf8();
+        (QStringLiteral("phase %1\n").arg(phase) + steps.join(u'\n') + u'\n').toUtf8();
     if (!out.open(QIODevice::WriteOnly) || out.write(text) != text.size() || !out.commit()) {
         m_error = out.errorString();
         return false;
@@ -148,9 +156,21 @@ bool RecordStore::saveIntent(const QStringList& steps, int next) {
     return true;
 }
 
-bool RecordStore::runDeletion(QStringList steps, int next) {
-    for (int i = next; i < steps.size(); ++i) {
-        if (!runDeletionStep(steps[i]) || !saveIntent(steps, i + 1))
+static int phaseOf(const QString& step) {
+    static const QStringList verbs = {QStringLiteral("compact"), QStringLiteral("doom"),
+                                      QStringLiteral("stage"), QStringLiteral("remove"),
+                                      QStringLiteral("finish")};
+    static const int phases[] = {0, 1, 1, 2, 3};
+    const qsizetype verb = verbs.indexOf(step.section(u' ', 0, 0));
+    return verb < 0 ? -1 : phases[verb];
+}
+
+bool RecordStore::runDeletion(QStringList steps, int phase) {
+    for (int p = phase; p <= 3; ++p) {
+        for (const QString& step : steps)
+            if (phaseOf(step) == p && !runDeletionStep(step))
+                return false;
+        if (p < 3 && !saveIntent(steps, p + 1))
             return false;
     }
     QFile::remove(m_home.deletionIntentFile());
@@ -179,12 +199,13 @@ bool RecordStore::runDeletionStep(const QString& step) {
         return ok;
     }
     if (verb == QLatin1String("remove") && words.size() == 2) {
-        QFile::remove(data.filePath(words[1]));
+        QFile::remove(data.filePath(words[1]) + QLatin1String(kDoomedSuffix));
         return true;
     }
-    if (verb == QLatin1String("stage") && words.size() == 2) {
+    if ((verb == QLatin1String("stage") || verb == QLatin1String("doom")) && words.size() == 2) {
         const QString source = data.filePath(words[1]);
-        const QString staged = source + QLatin1String(kMovingSuffix);
+        const QString staged =
+            source + QLatin1String(verb == QLatin1String("doom") ? kDoomedSuffix : kMovingSuffix);
         if (!QFile::exists(source))
             return true;
         QFile::remove(staged);

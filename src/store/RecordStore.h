@@ -43,9 +43,9 @@ public:
     const QString& errorString() const { return m_error; }
 
 private:
-    bool runDeletion(QStringList steps, int next);
+    bool runDeletion(QStringList steps, int phase);
     bool runDeletionStep(const QString& step);
-    bool saveIntent(const QStringList& steps, int next);
+    bool saveIntent(const QStringList& steps, int phase);
 
     AppHome m_home;
     QString m_error;

@@ -79,40 +79,49 @@ TEST(RecordStore, ProgramDeletionCompactsAndDropsTheEmptyFile) {
     EXPECT_FALSE(QFile::exists(t.file(QStringLiteral("data/1.dta"))));
 }
 
-// A crash after any step of a deletion is completed by the next start, with the same result.
+// A crash at any point of a deletion is completed by the next start, with the same result:
+// after each phase, again after a phase whose end was not yet recorded, and in the middle of
+// setting the files aside.
 TEST(RecordStore, InterruptedDeletionIsCompleted) {
-    for (int run = 0; run < 12; ++run) {
-        // Crash after crashAfter steps, and with repeat before the progress was recorded.
-        const int crashAfter = run / 2;
-        const int repeat = crashAfter > 0 ? run % 2 : 0;
+    const QStringList steps = {QStringLiteral("compact 2 4"),   QStringLiteral("doom 2.dta"),
+                               QStringLiteral("stage 3.dta"),   QStringLiteral("stage 4.dta"),
+                               QStringLiteral("remove 2.dta"),  QStringLiteral("finish 3.dta 2"),
+                               QStringLiteral("finish 4.dta 3")};
+    const int stepsOfPhase[] = {1, 3, 1, 2};
+    for (int run = 0; run < 11; ++run) {
+        const int done = run == 10 ? 1 : run / 2; // phases completed before the crash
+        const bool unrecorded = run % 2 == 1;     // the last completed phase was not recorded
         SCOPED_TRACE(run);
         TempHome t;
         RecordStore store(t.home());
         fill(store, 4);
-        // Run the deletion, then rewind the intent to pretend the process died after
-        // crashAfter steps (the steps themselves are repeatable).
         const QString intentPath = t.home().deletionIntentFile();
-        QStringList steps = {QStringLiteral("compact 2 4"),    QStringLiteral("remove 2.dta"),
-                             QStringLiteral("stage 3.dta"),    QStringLiteral("stage 4.dta"),
-                             QStringLiteral("finish 3.dta 2"), QStringLiteral("finish 4.dta 3")};
-        RecordStore partial(t.home());
-        for (int i = 0; i < crashAfter; ++i) {
-            // Replays the first steps by writing an intent that stops there.
-            writeBytes(
-                intentPath,
-                (QStringLiteral("next %1\n").arg(i) + steps.mid(0, i + 1).join(u'\n')).toUtf8());
-            ASSERT_TRUE(partial.completeInterruptedDeletion());
+        int taken = 0;
+        for (int p = 0; p < done && p < 4; ++p)
+            taken += stepsOfPhase[p];
+        if (taken > 0) {
+            // Runs the first phases alone, as the process did before it died.
+            writeBytes(intentPath,
+                       (QStringLiteral("phase 0\n") + steps.mid(0, taken).join(u'\n')).toUtf8());
+            ASSERT_TRUE(store.completeInterruptedDeletion());
         }
-        writeBytes(
-            intentPath,
-            (QStringLiteral("next %1\n").arg(crashAfter - repeat) + steps.join(u'\n')).toUtf8());
+        if (run == 10) // died after setting aside one of the files of phase 1
+            QFile::rename(t.file(QStringLiteral("data/3.dta")),
+                          t.file(QStringLiteral("data/3.dta.moving")));
+        const int recorded = std::max(0, unrecorded ? done - 1 : done);
+        writeBytes(intentPath,
+                   (QStringLiteral("phase %1\n").arg(run == 10 ? 1 : recorded) + steps.join(u'\n'))
+                       .toUtf8());
         ASSERT_TRUE(store.completeInterruptedDeletion()) << store.errorString().toStdString();
         EXPECT_FALSE(QFile::exists(intentPath));
         EXPECT_EQ(store.companyNames(),
                   (QStringList{QStringLiteral("A"), QStringLiteral("C"), QStringLiteral("D")}));
+        expectProgramsOf(store, 1, QStringLiteral("A"), 1);
         expectProgramsOf(store, 2, QStringLiteral("C"), 3);
         expectProgramsOf(store, 3, QStringLiteral("D"), 4);
-        EXPECT_EQ(store.programCount(4), 0);
+        EXPECT_EQ(dataFiles(t),
+                  (QStringList{QStringLiteral("1.dta"), QStringLiteral("2.dta"),
+                               QStringLiteral("3.dta"), QStringLiteral("company.dta")}));
     }
 }
 
