@@ -141,28 +141,33 @@ void EditingSession::isProgramDirty() {
     }
 }
 
+// A modified record locks its selector, so no other record can be chosen until it is saved.
+void EditingSession::setModified(QStringView selector, bool& flag, bool modified) {
+    m_screen.setEnabled(id(selector), !modified);
+    flag = modified;
+    UpdateCaption();
+}
+
 void EditingSession::SetCompanyDirty() {
-    m_screen.setEnabled(id(u"cboCompanyName"), false);
-    CompanyDirty = true;
-    UpdateCaption();
+    setModified(u"cboCompanyName", CompanyDirty, true);
 }
-
 void EditingSession::SetCompanyClean() {
-    m_screen.setEnabled(id(u"cboCompanyName"), true);
-    CompanyDirty = false;
-    UpdateCaption();
+    setModified(u"cboCompanyName", CompanyDirty, false);
 }
-
 void EditingSession::SetProgramDirty() {
-    m_screen.setEnabled(id(u"cboProgramName"), false);
-    ProgramDirty = true;
-    UpdateCaption();
+    setModified(u"cboProgramName", ProgramDirty, true);
+}
+void EditingSession::SetProgramClean() {
+    setModified(u"cboProgramName", ProgramDirty, false);
 }
 
-void EditingSession::SetProgramClean() {
-    m_screen.setEnabled(id(u"cboProgramName"), true);
-    ProgramDirty = false;
-    UpdateCaption();
+void EditingSession::markModified(const ControlSpec& control, unsigned event) {
+    if (!(control.markOn & event))
+        return;
+    if (control.marks == RecordSide::Company)
+        SetCompanyDirty();
+    else if (control.marks == RecordSide::Program)
+        SetProgramDirty();
 }
 
 void EditingSession::UpdateCaption() {
@@ -260,12 +265,7 @@ void EditingSession::onChange(int control) {
     const ControlSpec& s = row(control);
     if (s.limit > 0)
         limitField(control, false);
-    if (s.markOn & kMarkOnChange) {
-        if (s.marks == RecordSide::Company)
-            SetCompanyDirty();
-        else if (s.marks == RecordSide::Program)
-            SetProgramDirty();
-    }
+    markModified(s, kMarkOnChange);
 }
 
 void EditingSession::onClick(int control) {
@@ -282,12 +282,7 @@ void EditingSession::onClick(int control) {
         expiryCheckClicked();
     else if (s.name == QLatin1String("optExpire") && m_screen.at(control).value)
         expiryOptionClicked(s.index);
-    if (s.markOn & kMarkOnClick) {
-        if (s.marks == RecordSide::Company)
-            SetCompanyDirty();
-        else if (s.marks == RecordSide::Program)
-            SetProgramDirty();
-    }
+    markModified(s, kMarkOnClick);
     if (s.kind != ControlKind::Button && s.kind != ControlKind::MenuItem &&
         s.kind != ControlKind::Label)
         return;

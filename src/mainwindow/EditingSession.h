@@ -156,6 +156,8 @@ private:
     void permissionFile(int i);
     void openUrlOf(QStringView control);
     void reportWriteFailure(const QString& what);
+    void setModified(QStringView selector, bool& flag, bool modified);
+    void markModified(const ControlSpec& control, unsigned event);
     bool confirmDelete(const QString& name);
     void reportDeleteFailure(const QString& name);
     template <typename Fn> void forEachControl(RecordSide side, Fn fn);
