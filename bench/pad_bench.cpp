@@ -1,10 +1,9 @@
 // Importing a large PAD file, scanning hostile text, and writing many PAD documents.
 #include "AutoPrompts.h"
 #include "mainwindow/EditingSession.h"
-#include "pad/PadCommands.h"
 #include "pad/PadImporter.h"
 #include "pad/PadText.h"
-#include "records/Win1252.h"
+#include "platform/Win1252.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -69,7 +68,7 @@ void BM_ImportLargePadFile(benchmark::State& state) {
         EditingSession session(store, prompts);
         session.Start();
         state.ResumeTiming();
-        benchmark::DoNotOptimize(importPadFile(session, path));
+        benchmark::DoNotOptimize(session.pad().importPadFile(path));
     }
     state.SetBytesProcessed(state.iterations() * bytes.size());
 }

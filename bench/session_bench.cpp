@@ -54,7 +54,7 @@ void BM_StartUpWith10000Companies(benchmark::State& state) {
     for (auto _ : state) {
         EditingSession session(store, prompts);
         session.Start();
-        benchmark::DoNotOptimize(session.CompanyCount);
+        benchmark::DoNotOptimize(session.state().CompanyCount);
     }
 }
 BENCHMARK(BM_StartUpWith10000Companies)->Unit(benchmark::kMillisecond);
@@ -68,7 +68,7 @@ void BM_SelectCompanyWith1000Programs(benchmark::State& state) {
     for (auto _ : state) {
         session.screen().setListIndex(selector, 1); // 1,000 programs
         state.PauseTiming();
-        state.counters["programs"] = static_cast<double>(session.ProgramCount);
+        state.counters["programs"] = static_cast<double>(session.state().ProgramCount);
         session.screen().setListIndex(selector, 0);
         state.ResumeTiming();
     }

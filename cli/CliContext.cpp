@@ -1,7 +1,5 @@
 #include "CliContext.h"
 
-#include "pad/PadCommands.h"
-
 #include <QFile>
 
 namespace brevaro::cli {
@@ -45,7 +43,6 @@ EditingSession& CliContext::session() {
     if (!m_session) {
         lockForWriting();
         m_session = std::make_unique<EditingSession>(m_store, m_prompts);
-        installPadCommands(*m_session);
         m_session->Start();
         failOnMessages();
     }

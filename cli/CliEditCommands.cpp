@@ -46,7 +46,7 @@ Target resolve(EditingSession& s, const FieldAssignment& a, bool haveProgram) {
     t.side = companyField >= 0 ? RecordSide::Company : RecordSide::Program;
     t.field = companyField >= 0 ? companyField : programField;
     const RecordLayout& layout = t.side == RecordSide::Company ? companyLayout() : programLayout();
-    const FieldSpec& f = layout.fields[static_cast<std::size_t>(t.field)];
+    const RecordField& f = layout.fields[static_cast<std::size_t>(t.field)];
     t.type = f.type;
     if (f.count > 1 && (a.index < 0 || a.index >= f.count))
         throw CliError{2, QStringLiteral("%1 has entries 0 to %2: write %1[i]=VALUE")
@@ -56,7 +56,7 @@ Target resolve(EditingSession& s, const FieldAssignment& a, bool haveProgram) {
         throw CliError{2, QStringLiteral("%1 has no entry %2").arg(a.name).arg(a.index)};
     t.entry = std::max(0, a.index);
     for (int id = 0; id < s.screen().count(); ++id) {
-        const ControlSpec& c = s.row(id);
+        const ControlRow& c = s.row(id);
         if (c.side != t.side || c.field != t.field)
             continue;
         if (c.kind == ControlKind::ListBox && t.entry < s.screen().at(id).items.size())
@@ -86,7 +86,8 @@ void apply(EditingSession& s, const Target& t, const FieldAssignment& a) {
             r.setText(t.field, a.value, t.entry);
         else
             r.setNumber(t.field, numberOf(a), t.entry);
-        t.side == RecordSide::Company ? s.SetCompanyDirty() : s.SetProgramDirty();
+        t.side == RecordSide::Company ? s.navigation().SetCompanyDirty()
+                                      : s.navigation().SetProgramDirty();
         return;
     }
     switch (screen.at(t.control).kind) {
@@ -112,7 +113,7 @@ int newCompanyCommand(CliContext& ctx, const QStringList& words) {
     ctx.prompts().nextInput = name;
     press(ctx, 0);
     press(ctx, 1);
-    ctx.print(QStringLiteral("%1\n").arg(ctx.session().CurrentCompanyNo));
+    ctx.print(QStringLiteral("%1\n").arg(ctx.session().state().CurrentCompanyNo));
     return 0;
 }
 
@@ -125,7 +126,7 @@ int newProgramCommand(CliContext& ctx, const QStringList& words) {
     ctx.prompts().nextInput = name;
     press(ctx, 3);
     press(ctx, 4);
-    ctx.print(QStringLiteral("%1\t%2\n").arg(c).arg(ctx.session().CurrentProgramNo));
+    ctx.print(QStringLiteral("%1\t%2\n").arg(c).arg(ctx.session().state().CurrentProgramNo));
     return 0;
 }
 
@@ -183,9 +184,9 @@ int setCommand(CliContext& ctx, const QStringList& words) {
         ctx.prompts().nextFile = args.value(QStringLiteral("--file-info"));
         s.screen().click(s.id(u"cmdOpenFileInfo"));
     }
-    if (s.CompanyDirty)
+    if (s.state().CompanyDirty)
         press(ctx, 1); // also saves the program, which is offered first
-    if (s.ProgramDirty)
+    if (s.state().ProgramDirty)
         press(ctx, 4);
     return 0;
 }

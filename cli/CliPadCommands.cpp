@@ -5,7 +5,7 @@
 #include "pad/PadText.h"
 #include "pad/VerificationReport.h"
 #include "pad/WebInfo.h"
-#include "records/Win1252.h"
+#include "platform/Win1252.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
@@ -46,7 +46,7 @@ int padCommand(CliContext& ctx, const QStringList& words) {
         return 0;
     }
     QString error;
-    if (!writePadFiles(s, args.value(QStringLiteral("-o")), &error))
+    if (!s.pad().writePadFiles(args.value(QStringLiteral("-o")), &error))
         throw CliError{2, error};
     return 0;
 }
@@ -80,13 +80,15 @@ int importCommand(CliContext& ctx, const QStringList& words) {
         EditingSession& s = ctx.session();
         // Each file goes into a window as it is freshly started: company 1 and its first
         // program shown.
-        if (s.CompanyCount > 0)
+        if (s.state().CompanyCount > 0)
             ctx.select(1, s.screen().at(u"cboProgramName").items.isEmpty() ? 0 : 1);
-        if (!importPadFile(s, path))
+        if (!s.pad().importPadFile(path))
             throw CliError{
                 2, QStringLiteral("%1 is not a PAD file: it must start with <?xml").arg(path)};
         ctx.failOnMessages();
-        ctx.print(QStringLiteral("%1\t%2\n").arg(s.CurrentCompanyNo).arg(s.CurrentProgramNo));
+        ctx.print(QStringLiteral("%1\t%2\n")
+                      .arg(s.state().CurrentCompanyNo)
+                      .arg(s.state().CurrentProgramNo));
     }
     return 0;
 }

@@ -1,6 +1,5 @@
 #include "keywords/KeywordSuggester.h"
 
-#include "mainwindow/EditingSession.h"
 #include "platform/HttpTransfer.h"
 #include "platform/StringHelpers.h"
 
@@ -23,11 +22,11 @@ KeywordSuggester::KeywordSuggester(HttpTransfer& http, QObject* parent)
             [this] { simpleText(QStringLiteral("Disconnected, Done ...")); });
 }
 
-KeywordSuggester::KeywordSuggester(EditingSession& session, HttpTransfer& http, QObject* parent)
+KeywordSuggester::KeywordSuggester(const QString& programName, const QString& homePage,
+                                   HttpTransfer& http, QObject* parent)
     : KeywordSuggester(http, parent) {
-    m_session = &session;
-    caption = QStringLiteral("Suggesting Keywords for: ") + session.text(u"cboProgramName");
-    url = session.text(u"txtApplicationHomeURL");
+    caption = QStringLiteral("Suggesting Keywords for: ") + programName;
+    url = homePage;
 }
 
 QString KeywordSuggester::instructions() {
@@ -58,10 +57,7 @@ void KeywordSuggester::checkPage(const QString& page) {
 }
 
 void KeywordSuggester::count() {
-    m_list.SplitWords(m_buffer, [this] {
-        if (m_session)
-            m_session->prompts().pumpEvents();
-    });
+    m_list.SplitWords(m_buffer, pump);
     m_list.CheckFrequentWords();
     rebuild();
 }
@@ -71,10 +67,10 @@ void KeywordSuggester::rebuild() {
     emit changed();
 }
 
-void KeywordSuggester::accept() {
-    if (!m_session || trimBlanks(keywords).isEmpty())
-        return;
-    m_session->setText(u"txtKeywords", keywords, m_session->selectedLanguage());
+std::optional<QString> KeywordSuggester::accept() const {
+    if (trimBlanks(keywords).isEmpty())
+        return std::nullopt;
+    return keywords;
 }
 
 void KeywordSuggester::cancel() {

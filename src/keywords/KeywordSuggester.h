@@ -3,10 +3,11 @@
 #include "keywords/KeywordList.h"
 
 #include <QObject>
+#include <functional>
+#include <optional>
 
 namespace brevaro {
 
-class EditingSession;
 class HttpTransfer;
 
 // The keyword suggester without its window: fetches the home page, counts its words, ticks
@@ -14,10 +15,10 @@ class HttpTransfer;
 class KeywordSuggester : public QObject {
     Q_OBJECT
 public:
-    // Takes the program name and home page from the main window's session.
-    KeywordSuggester(EditingSession& session, HttpTransfer& http, QObject* parent = nullptr);
-    // Without a main window (the command line).
     explicit KeywordSuggester(HttpTransfer& http, QObject* parent = nullptr);
+    // For a program: the caption names it and the address box holds its home page.
+    KeywordSuggester(const QString& programName, const QString& homePage, HttpTransfer& http,
+                     QObject* parent = nullptr);
 
     QString caption;
     QString url;
@@ -33,8 +34,10 @@ public:
     // The same over a page already at hand.
     void checkPage(const QString& page);
     void rebuild();
-    // OK: the selected language's keywords box gets the text, unless it is blank.
-    void accept();
+    // Runs now and then while counting, so a window stays responsive.
+    std::function<void()> pump;
+    // OK: the text for the keywords box, or nothing when it is blank.
+    std::optional<QString> accept() const;
     // Cancel: stops a running fetch.
     void cancel();
 
@@ -45,7 +48,6 @@ private:
     void simpleText(const QString& text);
     void count();
 
-    EditingSession* m_session = nullptr;
     HttpTransfer& m_http;
     KeywordList m_list;
     QString m_buffer;

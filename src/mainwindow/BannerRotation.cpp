@@ -1,13 +1,13 @@
 #include "mainwindow/BannerRotation.h"
 
-#include "mainwindow/WebAddresses.h"
 #include "platform/DayNumbers.h"
 #include "platform/FileHelpers.h"
 #include "platform/HttpTransfer.h"
 #include "platform/Prompts.h"
 #include "platform/StringHelpers.h"
 #include "platform/TextFiles.h"
-#include "records/Win1252.h"
+#include "platform/WebAddresses.h"
+#include "platform/Win1252.h"
 
 #include <QDir>
 #include <QFile>

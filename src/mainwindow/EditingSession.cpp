@@ -1,31 +1,34 @@
 #include "mainwindow/EditingSession.h"
 
 #include "AppVersion.h"
-#include "mainwindow/WebAddresses.h"
 #include "platform/StringHelpers.h"
-#include "records/ValueLists.h"
+#include "platform/WebAddresses.h"
 
 namespace brevaro {
-
-namespace {
-const QString kModified = QStringLiteral(" (MODIFIED) ");
-}
 
 EditingSession::EditingSession(RecordStore& store, Prompts& prompts, QObject* parent)
     : QObject(parent)
     , m_store(store)
     , m_prompts(prompts)
-    , m_controls(mainWindowControls()) {
+    , m_controls(mainWindowControls())
+    , m_navigation(*this, m_state)
+    , m_companies(*this, m_state)
+    , m_programs(*this, m_state)
+    , m_transfer(*this)
+    , m_assistance(*this)
+    , m_programTab(*this)
+    , m_pad(*this) {
     buildScreen();
     m_screen.setEvents(this);
 }
 
 void EditingSession::buildScreen() {
-    for (const ControlSpec& s : m_controls) {
-        const int id = m_screen.add(s.name, s.index, s.kind);
-        m_screen.setMaxLength(id, s.limit);
-        m_screen.setKeepsItem(id, s.keepsItem);
-        m_screen.setCaption(id, s.caption);
+    for (const ControlRow& r : m_controls) {
+        const int id = m_screen.add(r.name, r.index, r.kind);
+        m_screen.setMaxLength(id, r.limit);
+        m_screen.setKeepsItem(id, r.keepsItem);
+        // Only a control's own caption is shown as its text; a field's label never is.
+        m_screen.setCaption(id, r.caption);
     }
     m_screen.setItems(id(u"SSTab1"), mainTabCaptions());
     m_screen.setItems(id(u"SSTab2"), languageTabCaptions());
@@ -33,29 +36,22 @@ void EditingSession::buildScreen() {
     m_screen.setListIndex(id(u"SSTab2"), 0);
 }
 
-void EditingSession::setCommandHandler(SessionCommand command, std::function<void()> handler) {
-    m_handlers[command] = std::move(handler);
+const ControlRow& EditingSession::row(int id) const {
+    m_screen.at(id); // stops the program for an id that is not a control
+    return m_controls[static_cast<std::size_t>(id)];
 }
 
-void EditingSession::runCommand(SessionCommand command) {
-    const auto found = m_handlers.find(command);
+void EditingSession::setCommandHandler(ControlAction action, std::function<void()> handler) {
+    m_handlers[action] = std::move(handler);
+}
+
+void EditingSession::runCommand(ControlAction action, const QString& name) {
+    const auto found = m_handlers.find(action);
     if (found != m_handlers.end() && found->second) {
         found->second();
         return;
     }
-    static const std::map<SessionCommand, const char*> names = {
-        {SessionCommand::VerifyPAD, "Verify PAD"},
-        {SessionCommand::CreatePAD, "Create PAD"},
-        {SessionCommand::ImportPAD, "Import PAD"},
-        {SessionCommand::Submit, "Submit"},
-        {SessionCommand::Keywords, "Keyword suggestion"},
-        {SessionCommand::About, "About"},
-        {SessionCommand::DownloadBanners, "Banner download"}};
-    const QString name = QLatin1String(names.at(command));
-    SimpleText(name + QStringLiteral(" is not available yet."));
-    m_prompts.message(QLatin1String(kAppTitle),
-                      name + QStringLiteral(" is not available yet in this version of ") +
-                          QLatin1String(kAppTitle) + u'.');
+    m_navigation.SimpleText(name + QStringLiteral(" is not available yet."));
 }
 
 void EditingSession::Start() {
@@ -66,341 +62,247 @@ void EditingSession::Start() {
                               m_store.errorString());
     for (auto name : {u"lblCompanyID", u"lblProgramID", u"lblProgramDBname"})
         m_screen.setVisible(id(name), false);
-    LoadValueLists();
-    CompanyDirty = ProgramDirty = NewCompanyPending = false;
+    m_transfer.LoadValueLists();
+    m_state.CompanyDirty = m_state.ProgramDirty = m_state.NewCompanyPending = false;
     m_store.home().createFolders();
-    SetToolTips();
-    ImportInProgress = false;
-    ClearCompanyScreen();
-    ClearCompanyRecord();
-    ClearProgramScreen();
+    m_transfer.SetToolTips();
+    m_state.ImportInProgress = false;
+    m_transfer.ClearCompanyScreen();
+    m_transfer.ClearCompanyRecord();
+    m_transfer.ClearProgramScreen();
     // Clearing the screen fires change handlers; nothing the user typed is pending yet.
-    CompanyDirty = ProgramDirty = false;
-    CurrentCompanyNo = 1;
-    OpenCompanies();
-    CompanyDirty = ProgramDirty = false;
+    m_state.CompanyDirty = m_state.ProgramDirty = false;
+    m_state.CurrentCompanyNo = 1;
+    m_companies.OpenCompanies();
+    m_state.CompanyDirty = m_state.ProgramDirty = false;
     if (!m_screen.at(u"cboCompanyName").items.isEmpty())
         m_screen.setListIndex(id(u"cboCompanyName"), 0);
     if (!m_screen.at(u"cboProgramName").items.isEmpty())
         m_screen.setListIndex(id(u"cboProgramName"), 0);
-    CompanyDirty = ProgramDirty = false;
+    m_state.CompanyDirty = m_state.ProgramDirty = false;
     m_appVersionText = trimBlanks(
         QStringLiteral("%1.%2.%3").arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision));
-    UpdateCaption();
-    SimpleText(QStringLiteral("Welcome to ") + QLatin1String(kAppTitle));
+    m_navigation.UpdateCaption();
+    m_navigation.SimpleText(QStringLiteral("Welcome to ") + QLatin1String(kAppTitle));
 }
 
-void EditingSession::Shutdown() {
-    isCompanyDirty();
-    isProgramDirty();
+bool EditingSession::Shutdown() {
+    // Losing what the user asked to keep is worse than staying open: a failed save keeps
+    // the window.
+    if (!m_navigation.isCompanyDirty() || !m_navigation.isProgramDirty())
+        return false;
     emit closeRequested();
+    return true;
 }
 
-void EditingSession::LoadValueLists() {
-    for (const ValueList& list : valueLists()) {
-        const int control = id(list.control);
-        if (list.clearFirst || m_screen.at(control).items.isEmpty())
-            m_screen.setItems(control, list.items);
-        else
-            for (const QString& item : list.items)
-                m_screen.addItem(control, item);
-        if (list.selected >= 0)
-            m_screen.setListIndex(control, list.selected);
-    }
-}
-
-void EditingSession::SetToolTips() {
-    for (int i = 0; i < m_screen.count(); ++i)
-        if (!row(i).toolTip.isEmpty())
-            m_screen.setToolTip(i, row(i).toolTip);
-    m_screen.setCaption(id(u"lblCopyright"), copyrightLine());
-    for (int i = 0; i < 3; ++i)
-        m_screen.setCaption(id(u"lblOrganization", i), organizationSite(i));
-}
-
-void EditingSession::isCompanyDirty() {
-    if (!CompanyDirty || ImportInProgress)
-        return;
-    const QString name = m_company.trimText(CompanyField::CompanyName);
-    if (m_prompts.askYesNo(name + QStringLiteral(" not saved"),
-                           QStringLiteral("Do you want to save ") + name + u'?',
-                           Prompts::Icon::Question))
-        SaveCompany();
-}
-
-void EditingSession::isProgramDirty() {
-    if (!ProgramDirty || ImportInProgress)
-        return;
-    const QString name = m_program.trimText(ProgramField::ProgramName);
-    if (m_prompts.askYesNo(name + QStringLiteral(" Company not saved"),
-                           QStringLiteral("Do you want to save ") + name + u'?',
-                           Prompts::Icon::Question)) {
-        ScreenToProgram();
-        if (WriteCurrentProgram())
-            SetProgramClean();
-    }
-}
-
-// A modified record locks its selector, so no other record can be chosen until it is saved.
-void EditingSession::setModified(QStringView selector, bool& flag, bool modified) {
-    m_screen.setEnabled(id(selector), !modified);
-    flag = modified;
-    UpdateCaption();
-}
-
-void EditingSession::SetCompanyDirty() {
-    setModified(u"cboCompanyName", CompanyDirty, true);
-}
-void EditingSession::SetCompanyClean() {
-    setModified(u"cboCompanyName", CompanyDirty, false);
-}
-void EditingSession::SetProgramDirty() {
-    setModified(u"cboProgramName", ProgramDirty, true);
-}
-void EditingSession::SetProgramClean() {
-    setModified(u"cboProgramName", ProgramDirty, false);
-}
-
-void EditingSession::markModified(const ControlSpec& control, unsigned event) {
+void EditingSession::markModified(const ControlRow& control, unsigned event) {
     if (!(control.markOn & event))
         return;
     if (control.marks == RecordSide::Company)
-        SetCompanyDirty();
+        m_navigation.SetCompanyDirty();
     else if (control.marks == RecordSide::Program)
-        SetProgramDirty();
-}
-
-void EditingSession::UpdateCaption() {
-    QString extra;
-    UpdateCaption(extra);
-}
-
-void EditingSession::UpdateCaption(QString& extra) {
-    if (!trimBlanks(extra).isEmpty())
-        extra = QStringLiteral(" > (") + extra + u')';
-    const QString companyMarker = CompanyDirty ? kModified : QString();
-    const QString programMarker = ProgramDirty ? kModified : QString();
-    const QString caption = QLatin1String(kAppTitle) + u' ' + m_appVersionText +
-                            QStringLiteral(" - [") + m_company.trimText(CompanyField::CompanyName) +
-                            companyMarker + QStringLiteral(" - ") +
-                            m_program.trimText(ProgramField::ProgramName) + u' ' +
-                            m_program.trimText(ProgramField::ProgramVersion) + programMarker +
-                            QStringLiteral("] ") + extra;
-    m_screen.setCaption(id(u"frmStart"), caption);
-}
-
-void EditingSession::SimpleText(const QString& text) {
-    m_screen.setCaption(id(u"StatusBar1"), text);
-}
-
-void EditingSession::LoadCompanyProgramOnly() {
-    m_screen.setItems(id(u"cboProgramName"), {});
-    ClearProgramScreen();
-    ClearProgramRecord();
-    OpenPrograms();
-    ReadCurrentProgram();
-    LoadProgramList();
-    ProgramToScreen();
-    ShowProgramPosition();
-}
-
-void EditingSession::companySelected() {
-    const int index = m_screen.at(u"cboCompanyName").listIndex;
-    if (index < 0)
-        return;
-    isCompanyDirty();
-    // The program on screen belongs to the company being left: offer to save it first.
-    isProgramDirty();
-    CurrentCompanyNo = index + 1;
-    ShowCurrentCompany();
-    ShowCompanyPosition();
-    ShowProgramPosition();
-    m_screen.setCaption(id(u"lblCompanyID"),
-                        QString::number(m_company.number(CompanyField::CompanyID)));
-    LoadCompanyProgramOnly();
-    if (!NewCompanyPending)
-        SetProgramClean();
-    m_screen.setCaption(id(u"lblProgramID"),
-                        QString::number(m_program.number(ProgramField::CompanyID)));
-    SetCompanyClean();
-    SetProgramClean();
-    UpdateCaption();
-    if (!m_screen.at(u"cboProgramName").items.isEmpty())
-        m_screen.setListIndex(id(u"cboProgramName"), 0);
-    CurrentProgramNo = m_screen.at(u"cboProgramName").listIndex + 1;
-    ShowProgramPosition();
-}
-
-void EditingSession::programSelected() {
-    const int index = m_screen.at(u"cboProgramName").listIndex;
-    if (index < 0)
-        return;
-    isProgramDirty();
-    CurrentProgramNo = index + 1;
-    ShowSelectedProgram();
-    m_screen.setCaption(id(u"lblProgramID"),
-                        QString::number(m_program.number(ProgramField::CompanyID)));
-    SetProgramClean();
-}
-
-void EditingSession::tabSelected() {
-    const int tabs = id(u"SSTab1");
-    if (NewCompanyPending) {
-        SimpleText(QStringLiteral("Please SAVE your Company Data before you try to add products!"));
-        if (m_screen.at(tabs).listIndex != 0)
-            m_screen.setListIndex(tabs, 0);
-        return;
-    }
-    const int tab = m_screen.at(tabs).listIndex;
-    SimpleText(mainTabCaptions().value(tab));
-    // Which of buttons 0..5 are enabled, and the menu items 0..2, 4..6 that mirror them.
-    for (int b = 0; b < 6; ++b) {
-        const bool on = tab == 0 ? b <= 2 : tab == 1 ? b >= 3 : b == 4;
-        m_screen.setEnabled(id(u"cmdButton", b), on);
-        m_screen.setEnabled(id(u"mnuPAD", b < 3 ? b : b + 1), on);
-    }
+        m_navigation.SetProgramDirty();
 }
 
 void EditingSession::onChange(int control) {
-    const ControlSpec& s = row(control);
-    if (s.limit > 0)
-        limitField(control, false);
-    markModified(s, kMarkOnChange);
+    const ControlRow& r = row(control);
+    if (r.limit > 0)
+        m_assistance.limitField(control, false);
+    markModified(r, kMarkOnChange);
 }
 
 void EditingSession::onClick(int control) {
-    const ControlSpec& s = row(control);
-    if (s.name == QLatin1String("cboCompanyName"))
-        return companySelected();
-    if (s.name == QLatin1String("cboProgramName"))
-        return programSelected();
-    if (s.name == QLatin1String("SSTab1"))
-        return tabSelected();
-    if (s.kind == ControlKind::ComboBox && s.limit > 0)
-        limitField(control, false);
-    if (s.name == QLatin1String("chkHasExpiredInfo"))
-        expiryCheckClicked();
-    else if (s.name == QLatin1String("optExpire") && m_screen.at(control).value)
-        expiryOptionClicked(s.index);
-    markModified(s, kMarkOnClick);
-    if (s.kind != ControlKind::Button && s.kind != ControlKind::MenuItem &&
-        s.kind != ControlKind::Label)
-        return;
-    if (s.name == QLatin1String("cmdButton"))
-        pressButton(s.index);
-    else if (s.name == QLatin1String("mnuPAD"))
-        chooseFileMenu(s.index);
-    else if (s.name == QLatin1String("mnuTools"))
-        chooseToolsMenu(s.index);
-    else if (s.name == QLatin1String("mnuHelp"))
-        chooseHelpMenu(s.index);
-    else if (s.name == QLatin1String("cmdSetContactAsAuthor")) {
-        setText(u"txtContactFname", text(u"txtAuthorFname"));
-        setText(u"txtContactLname", text(u"txtAuthorLname"));
-        setText(u"txtContactEmail", text(u"txtAuthorEmail"));
-    } else if (s.name == QLatin1String("cmdOpenURL"))
-        openUrlOf(u"txtURL");
-    else if (s.name == QLatin1String("cmdBrowseGeneralURL"))
-        openUrlOf(browseTargets().at(s.index));
-    else if (s.name == QLatin1String("cmdCopyWebInfo2ClipBoard"))
-        copyToClipboard(s.index);
-    else if (s.name == QLatin1String("cmdCopyDesc"))
-        copyDescription(s.index);
-    else if (s.name == QLatin1String("cmdBabel"))
-        translate(s.index);
-    else if (s.name == QLatin1String("cmdOpenFileInfo"))
-        openFileInfo();
-    else if (s.name == QLatin1String("cmdDefaultPermissions"))
-        insertDefaultText(s.index);
-    else if (s.name == QLatin1String("cmdPermission"))
-        permissionFile(s.index);
-    else if (s.name == QLatin1String("picKeywordsGenerator"))
-        runCommand(SessionCommand::Keywords);
-    else if (s.name == QLatin1String("Command1"))
-        runCommand(SessionCommand::DownloadBanners);
-    else
-        openLink(m_prompts, s.name, s.index, m_company, m_appVersionText);
+    const ControlRow& r = row(control);
+    if (r.kind == ControlKind::ComboBox && r.limit > 0)
+        m_assistance.limitField(control, false);
+    switch (r.action) {
+    case ControlAction::SelectCompany:
+        return m_navigation.companySelected();
+    case ControlAction::SelectProgram:
+        return m_navigation.programSelected();
+    case ControlAction::SelectTab:
+        return m_navigation.tabSelected();
+    case ControlAction::ExpiryCheck:
+        m_programTab.expiryCheckClicked();
+        break;
+    case ControlAction::ExpiryOption:
+        if (m_screen.at(control).value)
+            m_programTab.expiryOptionClicked(r.index);
+        break;
+    default:
+        break;
+    }
+    markModified(r, kMarkOnClick);
+    runAction(r);
 }
 
 void EditingSession::onFocus(int control) {
-    showFocusHint(control);
+    m_assistance.showFocusHint(control);
 }
 
-void EditingSession::pressButton(int i) {
-    switch (i) {
-    case 0:
-        return NewCompany();
-    case 1:
-        SaveCompany();
-        return SetCompanyClean();
-    case 2:
-        return DeleteCompany();
-    case 3:
-        return NewProgram();
-    case 4:
-        SaveProgram();
-        return SetProgramClean();
-    case 5:
-        return DeleteProgram();
-    case 6:
-        return runCommand(SessionCommand::VerifyPAD);
-    case 7:
-        return runCommand(SessionCommand::CreatePAD);
-    case 8:
-        return runCommand(SessionCommand::Submit);
-    case 9:
-        return Shutdown();
-    default:
+void EditingSession::runAction(const ControlRow& r) {
+    switch (r.action) {
+    case ControlAction::NewCompany:
+        return m_companies.NewCompany();
+    case ControlAction::SaveCompany:
+        if (m_companies.SaveCompany())
+            m_navigation.SetCompanyClean();
+        return;
+    case ControlAction::DeleteCompany:
+        return m_companies.DeleteCompany();
+    case ControlAction::NewProgram:
+        return m_programs.NewProgram();
+    case ControlAction::SaveProgram:
+        if (m_programs.SaveProgram())
+            m_navigation.SetProgramClean();
+        return;
+    case ControlAction::DeleteProgram:
+        return m_programs.DeleteProgram();
+    case ControlAction::VerifyPAD:
+        return m_pad.VerifyPAD();
+    case ControlAction::CreatePAD:
+        return m_pad.CreatePADFile();
+    case ControlAction::ImportPAD:
+        return m_pad.ImportPAD();
+    case ControlAction::Exit:
+        Shutdown();
+        return;
+    case ControlAction::Submit:
+        return runCommand(r.action, QStringLiteral("Submit"));
+    case ControlAction::About:
+        return runCommand(r.action, QStringLiteral("About"));
+    case ControlAction::Keywords:
+        return runCommand(r.action, QStringLiteral("Keyword suggestion"));
+    case ControlAction::DownloadBanners:
+    case ControlAction::NextBanner:
+    case ControlAction::ClickBanner:
+        return runCommand(r.action, QStringLiteral("The banner strip"));
+    case ControlAction::OpenTranslator:
+        return m_prompts.openDocument(translationAddress(QString(), false));
+    case ControlAction::OpenLink:
+        return openLink(static_cast<LinkTarget>(r.arg));
+    case ControlAction::OpenFieldUrl: {
+        const QString url = text(r.target);
+        if (!url.isEmpty())
+            m_prompts.openDocument(url);
+        return;
+    }
+    case ControlAction::SameAsAuthor:
+        setText(u"txtContactFname", text(u"txtAuthorFname"));
+        setText(u"txtContactLname", text(u"txtAuthorLname"));
+        setText(u"txtContactEmail", text(u"txtAuthorEmail"));
+        return;
+    case ControlAction::CopyField:
+        return m_assistance.copyField(r);
+    case ControlAction::CopyDescription:
+        return m_assistance.copyDescription(r);
+    case ControlAction::TranslateField:
+        return m_assistance.translate(r);
+    case ControlAction::FileInfo:
+        return m_programTab.openFileInfo();
+    case ControlAction::DefaultText:
+        return m_programTab.insertDefaultText(r.arg, r.target);
+    case ControlAction::LoadText:
+        return m_programTab.loadText(r.target);
+    case ControlAction::SaveText:
+        return m_programTab.saveText(r.target);
+    case ControlAction::None:
+    case ControlAction::SelectCompany:
+    case ControlAction::SelectProgram:
+    case ControlAction::SelectTab:
+    case ControlAction::ExpiryCheck:
+    case ControlAction::ExpiryOption:
         return;
     }
 }
 
-void EditingSession::chooseFileMenu(int i) {
-    static const int buttonOf[] = {0, 1, 2, -1, 3, 4, 5, -1, -1, 6, 7, -1, -1, 9};
-    if (i == 8)
-        return runCommand(SessionCommand::ImportPAD);
-    if (i == 11)
-        return runCommand(SessionCommand::Submit);
-    if (i >= 0 && i < 14 && buttonOf[i] >= 0)
-        pressButton(buttonOf[i]);
+void EditingSession::openLink(LinkTarget target) {
+    const QString asp = organizationSite(0);
+    QString address;
+    switch (target) {
+    case LinkTarget::AspRoot:
+        address = asp;
+        break;
+    case LinkTarget::AspPad:
+        address = asp + QStringLiteral("/pad/");
+        break;
+    case LinkTarget::EscRoot:
+        address = organizationSite(1);
+        break;
+    case LinkTarget::TpaRoot:
+        address = organizationSite(2);
+        break;
+    case LinkTarget::MakerRoot:
+        address = makerServer();
+        break;
+    case LinkTarget::MakerMembers:
+        address = makerServer() + QStringLiteral("/members.php");
+        break;
+    case LinkTarget::SignUp:
+        address = signUpAddress(m_company.text(CompanyField::AuthorFirstName),
+                                m_company.text(CompanyField::AuthorLastName),
+                                m_company.text(CompanyField::AuthorEmail));
+        break;
+    case LinkTarget::Advertise:
+        address = productSite() + QStringLiteral("/advertise.php");
+        break;
+    case LinkTarget::ProductRoot:
+        address = productSite();
+        break;
+    case LinkTarget::Download:
+        address = versionAddress(m_appVersionText);
+        break;
+    case LinkTarget::Contact:
+        address = productSite() + QStringLiteral("/contact.php");
+        break;
+    }
+    if (!address.isEmpty())
+        m_prompts.openDocument(address);
 }
 
-void EditingSession::chooseToolsMenu(int i) {
-    if (i == 0)
-        m_prompts.openDocument(translationAddress(QString(), false));
-    else if (i == 2)
-        runCommand(SessionCommand::Submit);
+void EditingSession::beginImport() {
+    m_shownBeforeImport = m_company;
+    m_state.ImportInProgress = true;
+    m_transfer.ClearCompanyRecord();
 }
 
-void EditingSession::chooseHelpMenu(int i) {
-    if (i == 0)
-        return runCommand(SessionCommand::About);
-    openLink(m_prompts, QStringLiteral("mnuHelp"), i, m_company, m_appVersionText);
+void EditingSession::finishImport(bool accepted) {
+    if (!accepted) {
+        m_company = m_shownBeforeImport;
+        m_state.ImportInProgress = false;
+        return;
+    }
+    saveImported();
 }
 
-void EditingSession::openUrlOf(QStringView control) {
-    const QString url = text(control);
-    if (!url.isEmpty())
-        m_prompts.openDocument(url);
-}
-
-bool EditingSession::confirmDelete(const QString& name) {
-    return m_prompts.askYesNo(QStringLiteral("Delete ") + name,
-                              QStringLiteral("Do you want to delete ") + name + u'?',
-                              Prompts::Icon::Question);
-}
-
-void EditingSession::reportDeleteFailure(const QString& name) {
-    m_prompts.message(QStringLiteral("Delete ") + name,
-                      name + QStringLiteral(" could not be deleted.\n\n") + m_store.errorString());
-}
-
-void EditingSession::reportWriteFailure(const QString& what) {
-    m_prompts.message(QLatin1String(kAppTitle),
-                      what +
-                          QStringLiteral(" could not be saved, and your changes are still on "
-                                         "the screen.\n\n") +
-                          m_store.errorString());
+// Saves what the import set without reloading the fields over it, then shows the company
+// and the program as a fresh selection would.
+void EditingSession::saveImported() {
+    if (m_state.CurrentCompanyNo >= 1) {
+        m_transfer.ScreenToCompany();
+        if (m_companies.WriteCurrentCompany()) {
+            m_company.trimText(CompanyField::CompanyName);
+            m_navigation.SetCompanyClean();
+            m_state.NewCompanyPending = false;
+        }
+    }
+    if (m_state.CurrentCompanyNo >= 1 && m_state.CurrentProgramNo >= 1) {
+        m_transfer.ScreenToProgram();
+        if (m_programs.WriteCurrentProgram()) {
+            m_navigation.SetProgramClean();
+            m_state.NewProgramPending = false;
+        }
+    }
+    const int company = m_state.CurrentCompanyNo;
+    const int program = m_state.CurrentProgramNo;
+    m_state.ImportInProgress = false;
+    if (m_state.CompanyDirty || m_state.ProgramDirty || company < 1 ||
+        company > m_companies.GetCompanyCount())
+        return;
+    m_screen.setItems(id(u"cboCompanyName"), m_store.companyNames());
+    m_screen.setListIndex(id(u"cboCompanyName"), company - 1);
+    if (program >= 1 && program <= m_screen.at(u"cboProgramName").items.size())
+        m_screen.setListIndex(id(u"cboProgramName"), program - 1);
 }
 
 } // namespace brevaro

@@ -1,7 +1,15 @@
 #pragma once
 
+#include "mainwindow/CompanyCommands.h"
 #include "mainwindow/ControlTable.h"
+#include "mainwindow/FieldAssistance.h"
+#include "mainwindow/PadCommands.h"
+#include "mainwindow/ProgramCommands.h"
+#include "mainwindow/ProgramTabTools.h"
 #include "mainwindow/ScreenModel.h"
+#include "mainwindow/ScreenTransfer.h"
+#include "mainwindow/SessionNavigation.h"
+#include "mainwindow/SessionState.h"
 #include "platform/Prompts.h"
 #include "records/CompanyRecord.h"
 #include "records/ProgramRecord.h"
@@ -13,117 +21,48 @@
 
 namespace brevaro {
 
-// Commands that other parts of the program provide to the main window.
-enum class SessionCommand {
-    VerifyPAD,
-    CreatePAD,
-    ImportPAD,
-    Submit,
-    Keywords,
-    About,
-    DownloadBanners
-};
-
 // The main window without widgets: one current company and program, the screen model that
 // shows them, the modified state, and every command of the button bar and the menus. The
-// Qt window is a view over it; tests and the command-line tool drive it directly.
-class EditingSession : public QObject, public ControlEvents {
+// Qt window is a view over it; tests and the command-line tool drive it directly. Its work
+// is done by the parts it owns; a click runs the action the control table gives the control.
+class EditingSession : public QObject, private ControlEvents {
     Q_OBJECT
 public:
     EditingSession(RecordStore& store, Prompts& prompts, QObject* parent = nullptr);
 
     ScreenModel& screen() { return m_screen; }
+    const ScreenModel& screen() const { return m_screen; }
     // The control table row of control id.
-    const ControlSpec& row(int id) const { return m_controls[static_cast<std::size_t>(id)]; }
+    const ControlRow& row(int id) const;
     RecordStore& store() { return m_store; }
     Prompts& prompts() { return m_prompts; }
     CompanyRecord& company() { return m_company; }
     ProgramRecord& program() { return m_program; }
+    const SessionState& state() const { return m_state; }
     const QString& appVersionText() const { return m_appVersionText; }
 
-    // Supplies a command that lives elsewhere; without one the command says it is not
-    // available yet.
-    void setCommandHandler(SessionCommand command, std::function<void()> handler);
-    void runCommand(SessionCommand command);
+    SessionNavigation& navigation() { return m_navigation; }
+    CompanyCommands& companies() { return m_companies; }
+    ProgramCommands& programs() { return m_programs; }
+    ScreenTransfer& transfer() { return m_transfer; }
+    FieldAssistance& assistance() { return m_assistance; }
+    ProgramTabTools& programTab() { return m_programTab; }
+    PadCommands& pad() { return m_pad; }
+
+    // Supplies an action that lives outside the session (Submit, Keywords, About, the
+    // banners); without one the action says it is not available yet.
+    void setCommandHandler(ControlAction action, std::function<void()> handler);
 
     // Start-up sequence of the main window.
     void Start();
-    // Closing the window: offers to save, then asks the view to close.
-    void Shutdown();
+    // Closing the window: offers to save, then asks the view to close. False, with the
+    // window left open, when a save the user asked for failed.
+    bool Shutdown();
 
-    // Session state.
-    int CurrentCompanyNo = 0;
-    int CompanyCount = 0;
-    int CurrentProgramNo = 0;
-    int ProgramCount = 0;
-    bool CompanyDirty = false;
-    bool ProgramDirty = false;
-    bool NewCompanyPending = false;
-    bool NewProgramPending = false;
-    bool ImportInProgress = false;
-
-    void isCompanyDirty();
-    void isProgramDirty();
-    void SetCompanyDirty();
-    void SetCompanyClean();
-    void SetProgramDirty();
-    void SetProgramClean();
-    void UpdateCaption(QString& extra);
-    void UpdateCaption();
-    void SimpleText(const QString& text);
-    void LoadCompanyProgramOnly();
-    void LoadValueLists();
-    void SetToolTips();
-
-    // Company file operations.
-    int GetCompanyCount() const;
-    void ReadCurrentCompany();
-    bool WriteCurrentCompany();
-    void LoadCompanyList();
-    void ShowCurrentCompany();
-    void ShowCompanyPosition();
-    void OpenCompanies();
-    void NewCompany();
-    void CreateCompany(const QString& name);
-    void SaveCompany();
-    bool FindCompany(const QString& name);
-    void DeleteCompany();
-
-    // Program file operations.
-    QString ProgramFileName();
-    int GetProgramCount();
-    void ReadCurrentProgram();
-    bool WriteCurrentProgram();
-    void LoadProgramList();
-    void ShowSelectedProgram();
-    void ShowProgramPosition();
-    void OpenPrograms();
-    void NewProgram();
-    void CreateProgram(const QString& name);
-    void SaveProgram();
-    void DeleteProgram();
-
-    // Record and screen transfer.
-    void ScreenToCompany();
-    void CompanyToScreen();
-    void ClearCompanyScreen();
-    void EnableCompanyFields(bool enabled);
-    void ScreenToProgram();
-    void ProgramToScreen();
-    void ClearProgramScreen();
-    void EnableProgramFields(bool enabled);
-    void ClearCompanyRecord();
-    void ClearProgramRecord();
-
-    // Field help.
-    QString ShowCharCount(const QString& text, int limit);
-    int selectedLanguage() const;
-    QString defaultText(int which) const;
-
-    // Control events.
-    void onChange(int id) override;
-    void onClick(int id) override;
-    void onFocus(int id) override;
+    // A PAD import: the save prompts are off while it runs; finishing saves what it set
+    // (accepted) or puts the shown company back (refused).
+    void beginImport();
+    void finishImport(bool accepted);
 
     // Shorthands for the screen model.
     int id(QStringView name, int index = -1) const { return m_screen.id(name, index); }
@@ -137,39 +76,32 @@ signals:
 
 private:
     void buildScreen();
-    void companySelected();
-    void programSelected();
-    void tabSelected();
-    void pressButton(int i);
-    void chooseFileMenu(int i);
-    void chooseToolsMenu(int i);
-    void chooseHelpMenu(int i);
-    void limitField(int id, bool onFocus);
-    void showFocusHint(int id);
-    void copyToClipboard(int i);
-    void copyDescription(int i);
-    void translate(int i);
-    void openFileInfo();
-    void expiryCheckClicked();
-    void expiryOptionClicked(int i);
-    void insertDefaultText(int i);
-    void permissionFile(int i);
-    void openUrlOf(QStringView control);
-    void reportWriteFailure(const QString& what);
-    void setModified(QStringView selector, bool& flag, bool modified);
-    void markModified(const ControlSpec& control, unsigned event);
-    bool confirmDelete(const QString& name);
-    void reportDeleteFailure(const QString& name);
-    template <typename Fn> void forEachControl(RecordSide side, Fn fn);
+    void onChange(int id) override;
+    void onClick(int id) override;
+    void onFocus(int id) override;
+    void runAction(const ControlRow& row);
+    void runCommand(ControlAction action, const QString& name);
+    void markModified(const ControlRow& control, unsigned event);
+    void openLink(LinkTarget target);
+    void saveImported();
 
     RecordStore& m_store;
     Prompts& m_prompts;
     ScreenModel m_screen;
-    std::vector<ControlSpec> m_controls;
+    std::vector<ControlRow> m_controls;
     CompanyRecord m_company;
     ProgramRecord m_program;
+    SessionState m_state;
     QString m_appVersionText;
-    std::map<SessionCommand, std::function<void()>> m_handlers;
+    CompanyRecord m_shownBeforeImport;
+    std::map<ControlAction, std::function<void()>> m_handlers;
+    SessionNavigation m_navigation;
+    CompanyCommands m_companies;
+    ProgramCommands m_programs;
+    ScreenTransfer m_transfer;
+    FieldAssistance m_assistance;
+    ProgramTabTools m_programTab;
+    PadCommands m_pad;
 };
 
 } // namespace brevaro

@@ -26,8 +26,15 @@ int ScreenModel::add(const QString& name, int index, ControlKind kind) {
 
 int ScreenModel::id(QStringView name, int index) const {
     const int found = m_ids.value(key(name, index), -1);
-    Q_ASSERT_X(found >= 0, "ScreenModel::id", qPrintable(key(name, index)));
+    if (found < 0)
+        qFatal("the screen has no control %s", qPrintable(key(name, index)));
     return found;
+}
+
+ControlState& ScreenModel::state(int id) {
+    if (id < 0 || id >= count())
+        qFatal("the screen has no control number %d", id);
+    return m_controls[static_cast<std::size_t>(id)];
 }
 
 bool ScreenModel::has(QStringView name, int index) const {
@@ -45,7 +52,7 @@ void ScreenModel::setText(int id, const QString& text) {
         s.listIndex = item;
     }
     s.text = text;
-    changed(id);
+    changed(id, kChangedText | kChangedSelection);
     if (m_events)
         m_events->onChange(id);
 }
@@ -57,7 +64,7 @@ void ScreenModel::setListIndex(int id, int index) {
     s.listIndex = index;
     if (s.kind == ControlKind::ComboBox && index >= 0)
         s.text = s.items[index];
-    changed(id);
+    changed(id, kChangedSelection | kChangedText);
     if (m_events)
         m_events->onClick(id);
 }
@@ -69,13 +76,13 @@ void ScreenModel::setValue(int id, int value) {
         for (auto& other : m_controls)
             if (other.name == s.name && other.index != s.index && other.value) {
                 other.value = 0;
-                changed(this->id(other.name, other.index));
+                changed(this->id(other.name, other.index), kChangedValue);
             }
     }
     if (s.value == value)
         return;
     s.value = value;
-    changed(id);
+    changed(id, kChangedValue);
     if (m_events)
         m_events->onClick(id);
 }
@@ -85,7 +92,7 @@ void ScreenModel::setItemSelected(int id, int item, bool selected) {
     if (item < 0 || item >= s.selected.size() || s.selected[item] == selected)
         return;
     s.selected[item] = selected;
-    changed(id);
+    changed(id, kChangedSelection);
     if (m_events)
         m_events->onClick(id);
 }
@@ -101,28 +108,35 @@ void ScreenModel::focus(int id) {
         m_events->onFocus(id);
 }
 
+void ScreenModel::restoreListIndex(int id, int index) {
+    ControlState& s = state(id);
+    if (index >= s.items.size())
+        return;
+    s.listIndex = index;
+    if (s.kind == ControlKind::ComboBox && index >= 0)
+        s.text = s.items[index];
+    changed(id, kChangedSelection | kChangedText);
+}
+
 void ScreenModel::setEnabled(int id, bool enabled) {
     if (state(id).enabled != enabled) {
         state(id).enabled = enabled;
-        changed(id);
+        changed(id, kChangedEnabled);
     }
 }
 
 void ScreenModel::setVisible(int id, bool visible) {
     if (state(id).visible != visible) {
         state(id).visible = visible;
-        changed(id);
+        changed(id, kChangedVisible);
     }
 }
 
 void ScreenModel::setToolTip(int id, const QString& tip) {
-    state(id).toolTip = tip;
-    changed(id);
-}
-
-void ScreenModel::setInverted(int id, bool inverted) {
-    state(id).inverted = inverted;
-    changed(id);
+    if (state(id).toolTip != tip) {
+        state(id).toolTip = tip;
+        changed(id, kChangedToolTip);
+    }
 }
 
 void ScreenModel::setMaxLength(int id, int length) {
@@ -133,9 +147,17 @@ void ScreenModel::setKeepsItem(int id, bool keepsItem) {
     state(id).keepsItem = keepsItem;
 }
 
-void ScreenModel::setCaret(int id, int position) {
-    state(id).caret = position;
-    changed(id);
+void ScreenModel::requestFocus(int id) {
+    emit focusRequested(id);
+    focus(id);
+}
+
+void ScreenModel::requestCaret(int id, int position) {
+    emit caretRequested(id, position);
+}
+
+void ScreenModel::flash(int id) {
+    emit flashRequested(id);
 }
 
 void ScreenModel::setItems(int id, const QStringList& items) {
@@ -145,20 +167,20 @@ void ScreenModel::setItems(int id, const QStringList& items) {
     s.listIndex = -1;
     if (s.kind == ControlKind::ComboBox)
         s.text.clear();
-    changed(id);
+    changed(id, kChangedItems | kChangedSelection | kChangedText);
 }
 
 void ScreenModel::addItem(int id, const QString& item) {
     ControlState& s = state(id);
     s.items << item;
     s.selected << false;
-    changed(id);
+    changed(id, kChangedItems);
 }
 
 void ScreenModel::setCaption(int id, const QString& text) {
     if (state(id).text != text) {
         state(id).text = text;
-        changed(id);
+        changed(id, kChangedCaption);
     }
 }
 

@@ -33,14 +33,24 @@ struct ControlState {
     int value = 0;
     bool enabled = true;
     bool visible = true;
-    bool inverted = false; // shown white on black for a moment (copy flash)
     QString toolTip;
     int maxLength = 0;      // 0: no limit
     bool keepsItem = false; // a combo box whose text cannot be cleared: it keeps its item
-    int caret = -1;         // caret position requested by the program, -1: none
 
     // "name" or, for an array member, "name_i": the widget's objectName.
     QString objectName() const;
+};
+
+// What a change notification is about, so a view repaints only that.
+enum ControlChange : unsigned {
+    kChangedText = 1,
+    kChangedItems = 2,
+    kChangedSelection = 4,
+    kChangedValue = 8,
+    kChangedEnabled = 16,
+    kChangedVisible = 32,
+    kChangedToolTip = 64,
+    kChangedCaption = 128,
 };
 
 // Receives the events that a control raises, whether the user or the program changed it.
@@ -63,10 +73,12 @@ public:
     int add(const QString& name, int index, ControlKind kind);
     void setEvents(ControlEvents* events) { m_events = events; }
 
+    // The control's id; a name that is not in the table is a programming error and stops
+    // the program.
     int id(QStringView name, int index = -1) const;
     bool has(QStringView name, int index = -1) const;
     int count() const { return static_cast<int>(m_controls.size()); }
-    const ControlState& at(int id) const { return m_controls[static_cast<std::size_t>(id)]; }
+    const ControlState& at(int id) const { return const_cast<ScreenModel*>(this)->state(id); }
     const ControlState& at(QStringView name, int index = -1) const { return at(id(name, index)); }
 
     // Raise events.
@@ -75,16 +87,23 @@ public:
     void setValue(int id, int value);
     void setItemSelected(int id, int item, bool selected);
     void click(int id);
+    // The control got the focus (GotFocus).
     void focus(int id);
 
+    // One-shot requests to the view: move the focus (the control's GotFocus runs at once),
+    // put the caret, show the control white on black for a moment.
+    void requestFocus(int id);
+    void requestCaret(int id, int position);
+    void flash(int id);
+
     // Quiet changes: no event.
+    // Puts a list's selection back after a refused change.
+    void restoreListIndex(int id, int index);
     void setEnabled(int id, bool enabled);
     void setVisible(int id, bool visible);
     void setToolTip(int id, const QString& tip);
-    void setInverted(int id, bool inverted);
     void setMaxLength(int id, int length);
     void setKeepsItem(int id, bool keepsItem);
-    void setCaret(int id, int position);
     void setItems(int id, const QStringList& items); // empties the selection and the text
     void addItem(int id, const QString& item);
     void setCaption(int id, const QString& text); // labels, buttons, form caption, status bar
@@ -100,11 +119,14 @@ public:
     int focused() const { return m_focused; }
 
 signals:
-    void controlChanged(int id);
+    void controlChanged(int id, unsigned what);
+    void focusRequested(int id);
+    void caretRequested(int id, int position);
+    void flashRequested(int id);
 
 private:
-    ControlState& state(int id) { return m_controls[static_cast<std::size_t>(id)]; }
-    void changed(int id) { emit controlChanged(id); }
+    ControlState& state(int id);
+    void changed(int id, unsigned what) { emit controlChanged(id, what); }
 
     std::vector<ControlState> m_controls;
     QHash<QString, int> m_ids;

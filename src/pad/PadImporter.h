@@ -5,7 +5,8 @@
 
 namespace brevaro {
 
-class EditingSession;
+class PadImportTarget;
+class Prompts;
 
 // A PAD file's text as the importer reads it: decoded in the encoding its XML declaration
 // names (UTF-8, ISO-8859-1, Windows-1252; Windows-1252 when none), every line followed by
@@ -19,12 +20,8 @@ void scanPadTags(
     QStringView text,
     const std::function<void(QStringView tag, QStringView value, int language)>& visit);
 
-// Reads the text into the main window's fields, creating or finding the company and creating
-// the program. False, after telling the user, when the text is not a PAD file.
-bool ReadPADFile(EditingSession& session, const QString& text);
-// Imports one file and saves what it set; false when the file was refused.
-bool importPadFile(EditingSession& session, const QString& path);
-// The Import PAD command: asks for a file, then imports it.
-void ImportPAD(EditingSession& session);
+// Reads the text into the target's fields, creating or finding the company and creating the
+// program. False, after telling the user, when the text is not a PAD file.
+bool ReadPADFile(PadImportTarget& target, Prompts& prompts, const QString& text);
 
 } // namespace brevaro

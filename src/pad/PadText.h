@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pad/PadLayout.h"
 #include "records/CompanyRecord.h"
 #include "records/ProgramRecord.h"
 
@@ -16,6 +17,14 @@ QString availableAtComment(); // "<!-- Available for download at: <product site>
 QString joinedFlagTexts(const ProgramRecord& program, ProgramField field, const QStringList& items);
 // "Days", "Uses" or "Either/Or" for the highest of the first three expiry flags set, else empty.
 QString expireBasedOnCaption(const ProgramRecord& program);
+
+// The six description fields of a language, in document order.
+std::span<const ProgramField> descriptionFields();
+// The list items that the flags of OSSupported or LanguageSupported stand for.
+const QStringList& flagListItems(ProgramField field);
+// The value of a fixed row, and the value a value or list row writes for the two records.
+QString fixedValue(const PadRow& row);
+QString padValue(const PadRow& row, const CompanyRecord& company, const ProgramRecord& program);
 
 // The PAD 1.15 document of the two records; every line ends with CR LF.
 QString CreatePADText(const CompanyRecord& company, const ProgramRecord& program);

@@ -1,6 +1,6 @@
 #include "platform/HttpTransfer.h"
 
-#include "records/Win1252.h"
+#include "platform/Win1252.h"
 
 #include <QEventLoop>
 #include <QNetworkAccessManager>

@@ -1,7 +1,7 @@
 #include "platform/TextFiles.h"
 
 #include "platform/StringHelpers.h"
-#include "records/Win1252.h"
+#include "platform/Win1252.h"
 
 #include <QFile>
 #include <QSaveFile>

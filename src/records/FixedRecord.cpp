@@ -1,7 +1,7 @@
 #include "records/FixedRecord.h"
 
 #include "platform/StringHelpers.h"
-#include "records/Win1252.h"
+#include "platform/Win1252.h"
 
 #include <QtEndian>
 
@@ -12,6 +12,19 @@ int RecordLayout::indexOf(QStringView fieldName) const {
         if (fieldName == QLatin1String(fields[i].name))
             return static_cast<int>(i);
     return -1;
+}
+
+const RecordField& RecordLayout::field(int index) const {
+    if (index < 0 || index >= static_cast<int>(fields.size()))
+        qFatal("%s record has no field %d", name, index);
+    return fields[static_cast<std::size_t>(index)];
+}
+
+// Every access names an existing field and entry; anything else is a programming error that
+// must stop the program rather than read or write beside the record.
+static void checkEntry(const RecordField& f, int index, bool text) {
+    if (f.isText() != text || index < 0 || index >= f.count)
+        qFatal("field %s has no %s entry %d", f.name, text ? "text" : "number", index);
 }
 
 FixedRecord::FixedRecord(const RecordLayout& layout)
@@ -35,14 +48,13 @@ void FixedRecord::setBytes(const QByteArray& bytes) {
     m_bytes.replace(0, bytes.size(), bytes);
 }
 
-const FieldSpec& FixedRecord::fieldAt(int field) const {
-    Q_ASSERT(field >= 0 && field < static_cast<int>(m_layout->fields.size()));
-    return m_layout->fields[static_cast<std::size_t>(field)];
+const RecordField& FixedRecord::fieldAt(int field) const {
+    return m_layout->field(field);
 }
 
 QString FixedRecord::rawText(int field, int index) const {
-    const FieldSpec& f = fieldAt(field);
-    Q_ASSERT(f.isText() && index >= 0 && index < f.count);
+    const RecordField& f = fieldAt(field);
+    checkEntry(f, index, true);
     return fromWin1252(m_bytes.constData() + f.entryOffset(index), f.width);
 }
 
@@ -51,8 +63,8 @@ QString FixedRecord::text(int field, int index) const {
 }
 
 void FixedRecord::setText(int field, QStringView value, int index) {
-    const FieldSpec& f = fieldAt(field);
-    Q_ASSERT(f.isText() && index >= 0 && index < f.count);
+    const RecordField& f = fieldAt(field);
+    checkEntry(f, index, true);
     char* dst = m_bytes.data() + f.entryOffset(index);
     const qsizetype n = std::min<qsizetype>(value.size(), f.width);
     for (qsizetype i = 0; i < n; ++i)
@@ -68,8 +80,8 @@ QString FixedRecord::trimText(int field, int index) {
 }
 
 int FixedRecord::number(int field, int index) const {
-    const FieldSpec& f = fieldAt(field);
-    Q_ASSERT(!f.isText() && index >= 0 && index < f.count);
+    const RecordField& f = fieldAt(field);
+    checkEntry(f, index, false);
     const char* src = m_bytes.constData() + f.entryOffset(index);
     if (f.type == FieldType::Int32)
         return qFromLittleEndian<qint32>(src);
@@ -77,8 +89,8 @@ int FixedRecord::number(int field, int index) const {
 }
 
 void FixedRecord::setNumber(int field, int value, int index) {
-    const FieldSpec& f = fieldAt(field);
-    Q_ASSERT(!f.isText() && index >= 0 && index < f.count);
+    const RecordField& f = fieldAt(field);
+    checkEntry(f, index, false);
     char* dst = m_bytes.data() + f.entryOffset(index);
     if (f.type == FieldType::Int32)
         qToLittleEndian<qint32>(value, dst);

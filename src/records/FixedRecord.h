@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/FieldSpec.h"
+#include "records/RecordField.h"
 
 #include <QByteArray>
 #include <QString>
@@ -40,7 +40,7 @@ protected:
     void resetToEmpty() { m_bytes = emptyBytes(*m_layout); }
 
 private:
-    const FieldSpec& fieldAt(int field) const;
+    const RecordField& fieldAt(int field) const;
 
     const RecordLayout* m_layout;
     QByteArray m_bytes;

@@ -9,7 +9,7 @@ QJsonObject recordToJson(const FixedRecord& record) {
     QJsonObject object;
     const auto& fields = record.layout().fields;
     for (int i = 0; i < static_cast<int>(fields.size()); ++i) {
-        const FieldSpec& f = fields[static_cast<std::size_t>(i)];
+        const RecordField& f = fields[static_cast<std::size_t>(i)];
         auto value = [&](int entry) -> QJsonValue {
             return f.isText() ? QJsonValue(record.text(i, entry))
                               : QJsonValue(record.number(i, entry));
@@ -46,7 +46,7 @@ bool applyAssignment(FixedRecord& record, const FieldAssignment& a, QString* mes
         *message = QStringLiteral("there is no field %1").arg(a.name);
         return false;
     }
-    const FieldSpec& f = record.layout().fields[static_cast<std::size_t>(field)];
+    const RecordField& f = record.layout().fields[static_cast<std::size_t>(field)];
     if (f.count > 1 && a.index < 0) {
         *message = QStringLiteral("%1 has %2 entries: write %1[i]=VALUE with i from 0 to %3")
                        .arg(a.name)

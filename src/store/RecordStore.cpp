@@ -1,7 +1,7 @@
 #include "store/RecordStore.h"
 
 #include "platform/StringHelpers.h"
-#include "records/Win1252.h"
+#include "platform/Win1252.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,7 +23,7 @@ QStringList trimmedNames(const std::vector<QByteArray>& slices) {
     return names;
 }
 
-const FieldSpec& nameField(const RecordLayout& layout) {
+const RecordField& nameField(const RecordLayout& layout) {
     return layout.fields[1];
 }
 
@@ -59,7 +59,7 @@ bool RecordStore::writeCompany(int n, const CompanyRecord& record) {
 }
 
 QStringList RecordStore::companyNames() const {
-    const FieldSpec& f = nameField(companyLayout());
+    const RecordField& f = nameField(companyLayout());
     return trimmedNames(companyFile().readSlices(f.offset, f.size()));
 }
 
@@ -78,7 +78,7 @@ bool RecordStore::writeProgram(int companyId, int n, const ProgramRecord& record
 }
 
 QStringList RecordStore::programNames(int companyId) const {
-    const FieldSpec& f = nameField(programLayout());
+    const RecordField& f = nameField(programLayout());
     return trimmedNames(programFile(companyId).readSlices(f.offset, f.size()));
 }
 
@@ -107,7 +107,7 @@ bool RecordStore::deleteCompany(int n) {
         return false;
     }
     std::vector<int> ids;
-    const FieldSpec& idField = companyLayout().fields[0];
+    const RecordField& idField = companyLayout().fields[0];
     for (const auto& slice : companyFile().readSlices(idField.offset, idField.size()))
         ids.push_back(qFromLittleEndian<qint32>(slice.constData()));
 

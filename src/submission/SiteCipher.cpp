@@ -1,6 +1,6 @@
 #include "submission/SiteCipher.h"
 
-#include "records/Win1252.h"
+#include "platform/Win1252.h"
 
 namespace brevaro {
 

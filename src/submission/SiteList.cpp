@@ -1,10 +1,10 @@
 #include "submission/SiteList.h"
 
-#include "mainwindow/WebAddresses.h"
 #include "platform/HttpTransfer.h"
 #include "platform/StringHelpers.h"
 #include "platform/TextFiles.h"
-#include "records/Win1252.h"
+#include "platform/WebAddresses.h"
+#include "platform/Win1252.h"
 #include "submission/SiteCipher.h"
 
 #include <QFile>

@@ -2,7 +2,7 @@
 #include "FullRecords.h"
 #include "pad/CreatePad.h"
 #include "pad/PadText.h"
-#include "records/Win1252.h"
+#include "platform/Win1252.h"
 #include "store/RecordStore.h"
 
 #include <gtest/gtest.h>

@@ -116,16 +116,20 @@ TEST_F(SessionTest, KeywordSuggesterFetchesAndFillsTheSelectedLanguage) {
     button(4);
     screen().setListIndex(id(u"SSTab2"), 2);
     HttpTransfer http;
-    KeywordSuggester suggester(*session, http);
+    KeywordSuggester suggester(text(u"cboProgramName"), text(u"txtApplicationHomeURL"), http);
+    auto ok = [&] {
+        if (const auto keywords = suggester.accept())
+            session->assistance().applyKeywords(*keywords);
+    };
     EXPECT_EQ(suggester.caption, QStringLiteral("Suggesting Keywords for: Widget"));
     suggester.checkHomepage();
     EXPECT_EQ(listed(suggester.list()), QStringLiteral("Editor=003* fast=003* notes=002"));
     EXPECT_EQ(suggester.keywords, QStringLiteral("Editor, fast"));
     EXPECT_EQ(suggester.status, QStringLiteral("Disconnected, Done ..."));
-    suggester.accept();
+    ok();
     EXPECT_EQ(text(u"txtKeywords", 2), QStringLiteral("Editor, fast"));
     EXPECT_EQ(text(u"txtKeywords", 0), QString());
-    EXPECT_TRUE(session->ProgramDirty);
+    EXPECT_TRUE(session->state().ProgramDirty);
 
     // A dead address leaves the list empty and the text as it was.
     suggester.url = QStringLiteral("http://127.0.0.1:1/");
@@ -133,7 +137,7 @@ TEST_F(SessionTest, KeywordSuggesterFetchesAndFillsTheSelectedLanguage) {
     EXPECT_EQ(suggester.list().size(), 0);
     EXPECT_EQ(suggester.keywords, QStringLiteral("Editor, fast"));
     suggester.keywords = QStringLiteral("   ");
-    suggester.accept();
+    ok();
     EXPECT_EQ(text(u"txtKeywords", 2), QStringLiteral("Editor, fast"));
 }
 

@@ -21,15 +21,15 @@ protected:
 TEST_F(FieldHelpTest, LimitsCutAndCount) {
     type(u"txtAddress1", QString(60, u'x'));
     EXPECT_EQ(text(u"txtAddress1"), QString(30, u'x'));
-    EXPECT_EQ(at(u"txtAddress1").caret, 30);
+    EXPECT_EQ(carets.value(id(u"txtAddress1"), -1), 30);
     EXPECT_EQ(status(), QStringLiteral("You have used 30 of 30 characters ..."));
-    EXPECT_TRUE(session->CompanyDirty);
+    EXPECT_TRUE(session->state().CompanyDirty);
 
     type(u"txtCostUS", QStringLiteral("29.95"));
     screen().focus(id(u"txtProgramVersion"));
     screen().focus(id(u"txtCostUS"));
     EXPECT_EQ(status(), QStringLiteral("You have used 5 of 10 characters ..."));
-    EXPECT_EQ(at(u"txtCostUS").caret, 5);
+    EXPECT_EQ(carets.value(id(u"txtCostUS"), -1), 5);
 
     type(u"txt2000char", QString(2500, u'y'), 4);
     EXPECT_EQ(text(u"txt2000char", 4).size(), 2000);
@@ -55,12 +55,12 @@ TEST_F(FieldHelpTest, WhatMarksWhichRecord) {
     type(u"txtExpireAfter", QStringLiteral("30"));
     screen().setValue(id(u"chkActivateLanguage", 3), 1);
     screen().setListIndex(id(u"cboReleaseMonth"), 3); // picked from the list: no mark
-    EXPECT_FALSE(session->ProgramDirty);
+    EXPECT_FALSE(session->state().ProgramDirty);
     type(u"cboReleaseMonth", QStringLiteral("05"));
-    EXPECT_TRUE(session->ProgramDirty);
-    EXPECT_FALSE(session->CompanyDirty);
+    EXPECT_TRUE(session->state().ProgramDirty);
+    EXPECT_FALSE(session->state().CompanyDirty);
     screen().setListIndex(id(u"cboCountry"), 5);
-    EXPECT_TRUE(session->CompanyDirty);
+    EXPECT_TRUE(session->state().CompanyDirty);
 }
 
 TEST_F(FieldHelpTest, CopyButtonsUseTheSelectedLanguage) {
@@ -71,19 +71,18 @@ TEST_F(FieldHelpTest, CopyButtonsUseTheSelectedLanguage) {
     click(u"cmdCopyDesc", 0);
     EXPECT_EQ(text(u"txt250char", 3), QStringLiteral("German eighty"));
     EXPECT_EQ(text(u"txt250char", 0), QStringLiteral("English 250"));
-    EXPECT_TRUE(session->ProgramDirty);
+    EXPECT_TRUE(session->state().ProgramDirty);
 
     type(u"txt250char", QStringLiteral("Spanish 250"), 1);
     screen().setListIndex(id(u"SSTab2"), 1);
-    bool invertedDuringPause = false;
+    bool flashedBeforePause = false;
     prompts.onPump = [&] {
-        invertedDuringPause = at(u"txt250char", 1).inverted;
+        flashedBeforePause = flashes == QList<int>{id(u"txt250char", 1)};
     };
     click(u"cmdCopyWebInfo2ClipBoard", 12);
     EXPECT_EQ(prompts.clipboard, QStringLiteral("Spanish 250"));
-    EXPECT_TRUE(invertedDuringPause);
-    EXPECT_FALSE(at(u"txt250char", 1).inverted);
-    EXPECT_EQ(screen().focused(), id(u"cmdCopyWebInfo2ClipBoard", 12));
+    EXPECT_TRUE(flashedBeforePause);
+    EXPECT_EQ(focusRequests.back(), id(u"cmdCopyWebInfo2ClipBoard", 12));
 }
 
 TEST_F(FieldHelpTest, TranslationAndLinkAddresses) {

@@ -35,7 +35,7 @@ TEST_F(ProgramTabTest, FileInfoProposesNamesAndSizes) {
     EXPECT_EQ(text(u"txtSizeByte"), QStringLiteral("2621440"));
     EXPECT_EQ(text(u"txtSizeKB"), QStringLiteral("2560"));
     EXPECT_EQ(text(u"txtSizeMB"), QStringLiteral("2.50"));
-    EXPECT_TRUE(session->ProgramDirty);
+    EXPECT_TRUE(session->state().ProgramDirty);
     // The dialog starts in the company's own folder under pad, made safe as one level.
     ASSERT_EQ(prompts.dialogs.size(), 1);
     EXPECT_EQ(prompts.dialogs[0].initialFolder, home.file(QStringLiteral("pad/Acme_.._Tools")));

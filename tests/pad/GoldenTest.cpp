@@ -3,7 +3,7 @@
 #include "pad/PadText.h"
 #include "pad/VerificationReport.h"
 #include "pad/WebInfo.h"
-#include "records/Win1252.h"
+#include "platform/Win1252.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "SessionFixture.h"
 #include "pad/PadImporter.h"
 #include "pad/PadText.h"
-#include "records/Win1252.h"
+#include "platform/Win1252.h"
 
 #include <QDir>
 
@@ -18,7 +18,7 @@ protected:
         writeBytes(path, bytes);
         return path;
     }
-    bool import(const QString& path) { return importPadFile(*session, path); }
+    bool import(const QString& path) { return session->pad().importPadFile(path); }
     QByteArray minimal(const QByteArray& body) {
         return "<?xml version=\"1.0\"?>\r\n<XML_DIZ_INFO>\r\n" + body + "\r\n</XML_DIZ_INFO>\r\n";
     }
@@ -50,7 +50,7 @@ TEST_F(ImporterTest, WhatThisProgramWroteComesBackWhole) {
     expected.setNumber(ProgramField::ExpireBasedOn, 0, 2);
     expected.setNumber(ProgramField::OSSupported, 0, 26);
     for (int f = 0; f < static_cast<int>(programLayout().fields.size()); ++f) {
-        const FieldSpec& s = programLayout().fields[static_cast<std::size_t>(f)];
+        const RecordField& s = programLayout().fields[static_cast<std::size_t>(f)];
         for (int i = 0; i < s.count; ++i)
             if (s.isText())
                 EXPECT_EQ(p.text(f, i), expected.text(f, i)) << s.name << i;
@@ -65,7 +65,7 @@ TEST_F(ImporterTest, WhatThisProgramWroteComesBackWhole) {
     EXPECT_EQ(CreatePADText(c, p), again);
     // The window shows what was imported, clean.
     EXPECT_EQ(text(u"cboProgramName"), QStringLiteral("ProgramName"));
-    EXPECT_FALSE(session->CompanyDirty || session->ProgramDirty);
+    EXPECT_FALSE(session->state().CompanyDirty || session->state().ProgramDirty);
 }
 
 TEST_F(ImporterTest, RealFilesFromOtherTools) {
@@ -106,7 +106,7 @@ TEST_F(ImporterTest, RefusedFilesChangeNothing) {
     }
     EXPECT_EQ(prompts.beeps, 4);
     EXPECT_FALSE(QFile::exists(home.file(QStringLiteral("data/company.dta"))));
-    EXPECT_FALSE(session->ImportInProgress);
+    EXPECT_FALSE(session->state().ImportInProgress);
     // Upper case is fine.
     EXPECT_TRUE(import(padFile(QStringLiteral("upper.xml"),
                                "  <?XML version=\"1.0\"?><Company_Name>Upper</Company_Name>")));
@@ -172,7 +172,7 @@ TEST_F(ImporterTest, TagRules) {
     // After the French block the language stays French; "<b>bold" is scanned as a tag.
     EXPECT_EQ(p.text(ProgramField::CharDesc80, 2), QString());
     EXPECT_EQ(text(u"cboProgramName"), QStringLiteral("Widget"));
-    EXPECT_EQ(session->CurrentProgramNo, 2);
+    EXPECT_EQ(session->state().CurrentProgramNo, 2);
 }
 
 TEST_F(ImporterTest, ACompanyOnlyDifferingInCaseIsANewOne) {

@@ -1,6 +1,6 @@
+#include "platform/Win1252.h"
 #include "records/CompanyRecord.h"
 #include "records/ProgramRecord.h"
-#include "records/Win1252.h"
 
 #include <gtest/gtest.h>
 

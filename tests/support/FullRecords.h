@@ -10,7 +10,7 @@ namespace brevaro::test {
 inline void fillEveryField(FixedRecord& r) {
     const auto& fields = r.layout().fields;
     for (int f = 1; f < static_cast<int>(fields.size()); ++f) {
-        const FieldSpec& s = fields[static_cast<std::size_t>(f)];
+        const RecordField& s = fields[static_cast<std::size_t>(f)];
         for (int i = 0; i < s.count; ++i) {
             if (s.isText()) {
                 QString v = QLatin1String(s.name);

@@ -3,7 +3,6 @@
 #include "ScriptedPrompts.h"
 #include "TestSupport.h"
 #include "mainwindow/EditingSession.h"
-#include "pad/PadCommands.h"
 
 namespace brevaro::test {
 
@@ -17,9 +16,19 @@ protected:
 
     void SetUp() override { restart(); }
 
+    // The one-shot requests the session sent to the view.
+    QHash<int, int> carets; // control id -> last caret position requested
+    QList<int> flashes;
+    QList<int> focusRequests;
+
     void restart() {
         session = std::make_unique<EditingSession>(store, prompts);
-        installPadCommands(*session);
+        QObject::connect(&session->screen(), &ScreenModel::caretRequested,
+                         [this](int id, int position) { carets[id] = position; });
+        QObject::connect(&session->screen(), &ScreenModel::flashRequested,
+                         [this](int id) { flashes << id; });
+        QObject::connect(&session->screen(), &ScreenModel::focusRequested,
+                         [this](int id) { focusRequests << id; });
         session->Start();
     }
 

@@ -6,8 +6,10 @@
 
 namespace brevaro::test {
 
+// The home is one level inside a private folder, so that a test can check that nothing was
+// written beside it.
 TempHome::TempHome()
-    : m_path(m_dir.path()) {
+    : m_path(m_dir.path() + QStringLiteral("/home")) {
     AppHome(m_path).createFolders();
 }
 

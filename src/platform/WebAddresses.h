@@ -1,9 +1,6 @@
 #pragma once
 
-#include "platform/Prompts.h"
-#include "records/CompanyRecord.h"
-
-#include <QStringList>
+#include <QString>
 
 namespace brevaro {
 
@@ -16,19 +13,11 @@ QString organizationSite(int i); // 0 ASP, 1 ESC, 2 TPA
 // "Copyright (c) 2002-<this year> ..." as the main window and the about box show it.
 QString copyrightLine();
 
-// The sign-up page with the author's names and e-mail address from the company record.
-QString signUpAddress(const CompanyRecord& company);
+// The sign-up page with the author's names and e-mail address, trimmed, not encoded.
+QString signUpAddress(const QString& firstName, const QString& lastName, const QString& email);
 // The download page with the running version.
 QString versionAddress(const QString& appVersionText);
 // The translation page, with the text appended to its query when withQuery is set.
 QString translationAddress(const QString& text, bool withQuery);
-
-// The URL boxes that the browse buttons 0..8 open.
-const QStringList& browseTargets();
-
-// Opens the page of a link control (Help menu items, logos, organisation labels);
-// does nothing for a control that is not a link.
-void openLink(Prompts& prompts, const QString& control, int index, const CompanyRecord& company,
-              const QString& appVersionText);
 
 } // namespace brevaro

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+namespace brevaro {
+
+class EditingSession;
+
+// The PAD commands of the window: Verify PAD, Create PAD and Import PAD.
+class PadCommands {
+public:
+    explicit PadCommands(EditingSession& session);
+
+    // Writes temp1.htm in the home and opens it.
+    void VerifyPAD();
+    // Saves what is modified (asking first), then writes the PAD file and its web info
+    // block where the user chooses.
+    void CreatePADFile();
+    // Writes both files at path without asking; false with a message on failure.
+    bool writePadFiles(const QString& path, QString* error);
+    // Asks for a file and imports it.
+    void ImportPAD();
+    // Imports one file and saves what it set; false when the file was refused.
+    bool importPadFile(const QString& path);
+
+private:
+    EditingSession& m_s;
+};
+
+} // namespace brevaro

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+namespace brevaro {
+
+class EditingSession;
+
+// The helpers of the Program Info and Permissions tabs: file names and sizes from the
+// distribution file, the expiry group, the default texts and their text files.
+class ProgramTabTools {
+public:
+    explicit ProgramTabTools(EditingSession& session);
+
+    void openFileInfo();
+    void expiryCheckClicked();
+    void expiryOptionClicked(int option);
+    // The default distribution text (0) or licence agreement (1) of the current records.
+    QString defaultText(int which) const;
+    void insertDefaultText(int which, const QString& box);
+    void loadText(const QString& box);
+    void saveText(const QString& box);
+
+private:
+    EditingSession& m_s;
+};
+
+} // namespace brevaro

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "records/RecordField.h"
+
+namespace brevaro {
+
+class EditingSession;
+struct ControlRow;
+
+// Copies between the two current records and the controls that show them, clears and
+// enables the controls, and fills the value lists and tooltips: loops over the control table.
+class ScreenTransfer {
+public:
+    explicit ScreenTransfer(EditingSession& session);
+
+    void ScreenToCompany();
+    void CompanyToScreen();
+    void ClearCompanyScreen();
+    void EnableCompanyFields(bool enabled);
+    void ScreenToProgram();
+    void ProgramToScreen();
+    void ClearProgramScreen();
+    void EnableProgramFields(bool enabled);
+    void ClearCompanyRecord();
+    void ClearProgramRecord();
+    void LoadValueLists();
+    void SetToolTips();
+
+private:
+    template <typename Fn> void forEachControl(RecordSide side, Fn fn);
+
+    EditingSession& m_s;
+};
+
+} // namespace brevaro
