@@ -25,5 +25,7 @@ const ValueList& valueList(QStringView control);
 // Shorthands for the lists that records and PAD files index by position.
 const QStringList& operatingSystemList();
 const QStringList& languageList();
+// The countries of cboCountry, "United States" first.
+const QStringList& countryNames();
 
 } // namespace brevaro

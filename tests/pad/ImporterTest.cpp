@@ -193,3 +193,23 @@ TEST_F(ImporterTest, ImportCommandAsksForTheFile) {
     click(u"mnuPAD", 8);
     EXPECT_EQ(store.companyNames(), QStringList{QStringLiteral("Menu")});
 }
+
+// Element and language names are matched with their letter case: a lower-case tag is not the
+// element, a lower-case language block does not switch the language.
+TEST_F(ImporterTest, TagsAndLanguagesMatchTheirCase) {
+    ASSERT_TRUE(import(padFile(
+        QStringLiteral("case.xml"),
+        minimal("<Company_Name>Right</Company_Name><company_name>Wrong</company_name>\r\n"
+                "<Program_Name>Widget</Program_Name><program_version>9</program_version>\r\n"
+                "<french><Keywords>still english</Keywords></french>\r\n"
+                "<Spanish><Char_Desc_45>spanish</Char_Desc_45></Spanish>"))));
+    EXPECT_EQ(store.companyNames(), QStringList{QStringLiteral("Right")});
+    ProgramRecord p;
+    store.readProgram(1, 1, p);
+    EXPECT_EQ(p.text(ProgramField::ProgramVersion), QString());
+    EXPECT_EQ(p.text(ProgramField::Keywords, 0), QStringLiteral("still english"));
+    EXPECT_EQ(p.text(ProgramField::Keywords, 2), QString());
+    EXPECT_EQ(p.text(ProgramField::CharDesc45, 1), QStringLiteral("spanish"));
+    EXPECT_EQ(p.number(ProgramField::DescriptionActive, 1), 1);
+    EXPECT_EQ(p.number(ProgramField::DescriptionActive, 2), 0);
+}

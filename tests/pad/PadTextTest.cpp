@@ -1,5 +1,7 @@
 #include "pad/PadText.h"
 #include "TestSupport.h"
+#include "pad/VerificationReport.h"
+#include "pad/WebInfo.h"
 #include "records/ValueLists.h"
 
 #include <gtest/gtest.h>
@@ -167,4 +169,44 @@ TEST(PadText, AssociationBlocksUseTheFullForm) {
                      QStringLiteral(" <TPA_Member_ID></TPA_Member_ID>"),
                      QStringLiteral(" <Trial_License_Type>Trialware</Trial_License_Type>"),
                      QStringLiteral("</TPA>"), QString(), QStringLiteral("</XML_DIZ_INFO>")}));
+}
+
+// Every Y/N row of the document and the report: a check box flag that is not 0 writes Y
+// (-1 included); inside an extension block only exactly 1 is a Y.
+TEST(PadText, EveryYesNoRowReadsItsOwnFlag) {
+    for (const PadRow& row : padRows()) {
+        if (row.kind != PadRowKind::YesNo && row.kind != PadRowKind::MemberYesNo &&
+            row.kind != PadRowKind::Expiry)
+            continue;
+        const char* element = fieldOf(row).padElement;
+        for (int value : {-1, 1, 2}) {
+            ProgramRecord p = emptyProgram();
+            for (PF block :
+                 {PF::ASPActivated, PF::ESCActivated, PF::MSNActivated, PF::TPAActivated})
+                p.setNumber(block, 1);
+            p.setNumber(static_cast<PF>(row.field), value);
+            const bool yes = row.kind == PadRowKind::MemberYesNo ? value == 1 : value != 0;
+            const QString line = u'<' + QLatin1String(element) + u'>' + (yes ? u'Y' : u'N') +
+                                 QStringLiteral("</") + QLatin1String(element) + u'>';
+            EXPECT_TRUE(lines(CreatePADText(CompanyRecord(), p)).filter(line).size() == 1)
+                << element << " = " << value;
+            const QString reportLine = QLatin1String(fieldOf(row).reportCaption) +
+                                       QStringLiteral(": </b><FONT color=\"#000099\"><b>") +
+                                       (yes ? QStringLiteral("YES") : QStringLiteral("NO"));
+            EXPECT_TRUE(CreateVerificationReport(CompanyRecord(), p).contains(reportLine))
+                << element << " = " << value;
+        }
+    }
+}
+
+// The web info block links the ASP membership only for a member flag of exactly 1.
+TEST(WebInfo, OnlyAMemberFlagOfOneShowsTheMembership) {
+    for (int value : {-1, 0, 1, 2}) {
+        ProgramRecord p = emptyProgram();
+        p.setNumber(PF::ASPMember, value);
+        p.setText(PF::ASPMemberNumber, u"4711");
+        const QString block = CreateWebInfo(CompanyRecord(), p, QStringLiteral("http://asp.test"));
+        EXPECT_EQ(block.contains(QStringLiteral("ASP&nbsp;Member")), value == 1) << value;
+        EXPECT_EQ(block.contains(QStringLiteral(": 4711")), value == 1) << value;
+    }
 }

@@ -1,6 +1,9 @@
 #include "platform/DayNumbers.h"
 #include "platform/FileHelpers.h"
 #include "platform/StringHelpers.h"
+#include "platform/Win1252.h"
+
+#include <QStringDecoder>
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -60,4 +63,23 @@ TEST(FileHelpers, ExistsCopySize) {
     EXPECT_TRUE(fileTimeStamp(b).isValid());
     EXPECT_TRUE(ensureFolder(dir.filePath(QStringLiteral("x/y"))));
     EXPECT_TRUE(pathExists(dir.filePath(QStringLiteral("x/y"))));
+}
+
+// Our table agrees with Qt's own codec on every byte, both ways; the five bytes the set leaves
+// undefined stay themselves.
+TEST(Win1252, AgreesWithQtOnEveryByte) {
+    QStringDecoder decoder("windows-1252");
+    ASSERT_TRUE(decoder.isValid());
+    for (int b = 0; b < 256; ++b) {
+        const char byte = static_cast<char>(b);
+        const QString ours = fromWin1252(&byte, 1);
+        const QString qts = decoder.decode(QByteArray(1, byte));
+        const bool undefined = b == 0x81 || b == 0x8D || b == 0x8F || b == 0x90 || b == 0x9D;
+        if (undefined)
+            EXPECT_EQ(ours, QString(QChar(char16_t(b)))) << b;
+        else
+            EXPECT_EQ(ours, qts) << b;
+        EXPECT_EQ(toWin1252(ours), QByteArray(1, byte)) << b;
+    }
+    EXPECT_EQ(toWin1252(u"\u0100\u20AC"), QByteArray("?\x80"));
 }

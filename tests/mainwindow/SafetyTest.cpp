@@ -1,0 +1,150 @@
+#include "SessionFixture.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace brevaro;
+using namespace brevaro::test;
+
+namespace {
+
+// A record file that cannot be replaced: a folder stands where the file would be renamed to.
+class FailedSaveTest : public SessionTest {
+protected:
+    void SetUp() override {
+        SessionTest::SetUp();
+        addCompany(QStringLiteral("Acme"));
+        addProgram(QStringLiteral("Widget"));
+        addCompany(QStringLiteral("Beta"));
+        selectCompany(1);
+    }
+    void blockWrites(const QString& file) {
+        const QString path = home.file(QStringLiteral("data/") + file);
+        ASSERT_TRUE(QFile::rename(path, path + QStringLiteral(".kept")));
+        ASSERT_TRUE(QDir().mkdir(path));
+    }
+    void allowWrites(const QString& file) {
+        const QString path = home.file(QStringLiteral("data/") + file);
+        ASSERT_TRUE(QDir(path).removeRecursively());
+        ASSERT_TRUE(QFile::rename(path + QStringLiteral(".kept"), path));
+    }
+    bool companySelectorLocked() { return !at(u"cboCompanyName").enabled; }
+};
+
+} // namespace
+
+TEST_F(FailedSaveTest, ACompanyThatCannotBeWrittenStaysModified) {
+    type(u"txtCity", QStringLiteral("Springfield"));
+    blockWrites(QStringLiteral("company.dta"));
+    button(1);
+    ASSERT_EQ(prompts.messages.size(), 1);
+    EXPECT_TRUE(prompts.messages[0].contains(QStringLiteral("could not be saved")));
+    EXPECT_TRUE(session->state().CompanyDirty);
+    EXPECT_TRUE(companySelectorLocked());
+    EXPECT_TRUE(caption().contains(QStringLiteral("Acme (MODIFIED)")));
+
+    // Choosing another company asks; a Yes whose save fails keeps the edit on screen.
+    prompts.yesNo = {true};
+    const auto asked = prompts.asked.size();
+    selectCompany(2);
+    EXPECT_EQ(prompts.asked.size(), asked + 1);
+    EXPECT_EQ(text(u"cboCompanyName"), QStringLiteral("Acme"));
+    EXPECT_EQ(text(u"txtCity"), QStringLiteral("Springfield"));
+    EXPECT_TRUE(session->state().CompanyDirty);
+
+    // New Company and closing the window do not throw the edit away either.
+    prompts.yesNo = {true, true};
+    button(0);
+    EXPECT_TRUE(prompts.inputs.empty());
+    EXPECT_FALSE(session->Shutdown());
+    EXPECT_EQ(text(u"txtCity"), QStringLiteral("Springfield"));
+
+    allowWrites(QStringLiteral("company.dta"));
+    button(1);
+    EXPECT_FALSE(session->state().CompanyDirty);
+    EXPECT_FALSE(companySelectorLocked());
+    CompanyRecord stored;
+    store.readCompany(1, stored);
+    EXPECT_EQ(stored.text(CompanyField::CityTown), QStringLiteral("Springfield"));
+}
+
+TEST_F(FailedSaveTest, AProgramThatCannotBeWrittenStaysModified) {
+    type(u"txtProgramVersion", QStringLiteral("2.0"));
+    blockWrites(QStringLiteral("1.dta"));
+    button(4);
+    EXPECT_TRUE(session->state().ProgramDirty);
+    EXPECT_FALSE(at(u"cboProgramName").enabled);
+    // The save prompt of Create PAD fails too: no file is written.
+    prompts.yesNo = {true};
+    button(7);
+    EXPECT_EQ(status(), QStringLiteral("You MUST save before you can create your PAD file ..."));
+    EXPECT_TRUE(prompts.dialogs.isEmpty());
+    allowWrites(QStringLiteral("1.dta"));
+    button(4);
+    EXPECT_FALSE(session->state().ProgramDirty);
+    EXPECT_TRUE(at(u"cboProgramName").enabled);
+}
+
+TEST_F(SessionTest, AnImportOffersToSaveTheShownProgramFirst) {
+    addCompany(QStringLiteral("Acme"));
+    addProgram(QStringLiteral("Widget"));
+    type(u"txtProgramVersion", QStringLiteral("3.1"));
+    const QString file = home.file(QStringLiteral("in.xml"));
+    writeBytes(file, "<?xml version=\"1.0\"?>\r\n<Company_Name>Acme</Company_Name>\r\n"
+                     "<Program_Name>Other</Program_Name>\r\n");
+    prompts.yesNo = {true};
+    prompts.files.push_back(file);
+    click(u"mnuPAD", 8);
+    EXPECT_EQ(prompts.asked.last(),
+              QStringLiteral("Widget Company not saved|Do you want to save Widget?"));
+    ProgramRecord saved;
+    store.readProgram(1, 1, saved);
+    EXPECT_EQ(saved.text(ProgramField::ProgramVersion), QStringLiteral("3.1"));
+    EXPECT_EQ(store.programNames(1),
+              (QStringList{QStringLiteral("Widget"), QStringLiteral("Other")}));
+}
+
+TEST_F(SessionTest, EachTabEnablesItsOwnButtonsAndMenuItems) {
+    addCompany(QStringLiteral("Acme"));
+    for (int tab = 0; tab < 9; ++tab) {
+        screen().setListIndex(id(u"SSTab1"), tab);
+        QString buttons, menu;
+        for (int b = 0; b < 10; ++b)
+            buttons += at(u"cmdButton", b).enabled ? u'1' : u'0';
+        for (int m = 0; m < 14; ++m)
+            menu += at(u"mnuPAD", m).enabled ? u'1' : u'0';
+        const char* wantButtons = tab == 0 ? "1110001111" : tab == 1 ? "0001111111" : "0000101111";
+        const char* wantMenu = tab == 0   ? "11110001111111"
+                               : tab == 1 ? "00011111111111"
+                                          : "00010101111111";
+        EXPECT_EQ(buttons, QLatin1String(wantButtons)) << "tab " << tab;
+        EXPECT_EQ(menu, QLatin1String(wantMenu)) << "tab " << tab;
+    }
+}
+
+TEST_F(SessionTest, AnEmptyHomeShowsNoCaptionInItsFields) {
+    // Labels are shown beside fields, never as their text.
+    EXPECT_EQ(text(u"cboCompanyName"), QString());
+    EXPECT_EQ(text(u"cboProgramName"), QString());
+    EXPECT_EQ(text(u"lstSupportedOS"), QString());
+    EXPECT_EQ(text(u"txtKeywords", 0), QString());
+    EXPECT_EQ(text(u"lblCompanyRecord"), QStringLiteral("0 of 0"));
+    EXPECT_FALSE(at(u"txtAddress1").enabled);
+    EXPECT_EQ(status(), QStringLiteral("Welcome to Brevaro"));
+    for (const ControlRow& r : mainWindowControls()) {
+        if (r.kind != ControlKind::TextBox && r.kind != ControlKind::ListBox)
+            continue;
+        EXPECT_TRUE(text(r.name, r.index).isEmpty()) << r.objectName().toStdString();
+    }
+}
+
+TEST(ScreenModelDeathTest, AControlThatDoesNotExistStopsTheProgram) {
+    ScreenModel screen;
+    screen.add(QStringLiteral("txtThere"), -1, ControlKind::TextBox);
+    EXPECT_EQ(screen.id(u"txtThere"), 0);
+    EXPECT_DEATH(screen.id(u"txtNotThere"), "txtNotThere");
+    EXPECT_DEATH(screen.at(7), "");
+    CompanyRecord company;
+    EXPECT_DEATH(company.text(99), "");
+    EXPECT_DEATH(company.setText(CompanyField::CompanyID, u"x"), "CompanyID");
+}
