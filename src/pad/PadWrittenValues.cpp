@@ -81,7 +81,7 @@ const Row kRows[] = {
     {"Has_Expire_Info", P, p(PF::HasExpireInfo), "Has Expired Info", "Program Info", From::YesNo},
     {"Expire_Count", P, p(PF::ExpireCount), "Expire After", "Program Info", From::Text,
      When::ExpireByCount},
-    {"Expire_Based_On", P, p(PF::ExpireBasedOn), "Expire After", "Program Info",
+    {"Expire_Based_On", P, p(PF::ExpireBasedOn), "Days / Uses / Either/Or", "Program Info",
      From::ExpireBasedOn},
     {"Expire_Month", P, p(PF::ExpireMonth), "Expire on (month)", "Program Info", From::Text,
      When::ExpireByDate},
