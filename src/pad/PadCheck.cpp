@@ -89,10 +89,11 @@ void checkListValue(const PadWrittenValue& v, const QString& parsed, const PadFi
             quotedList(older) +
                 (older.size() > 1
                      ? QStringLiteral(" are values of the PAD 1.15 list that Brevaro writes; "
-                                      "the current rules (3.11) no longer list them.")
+                                      "the current rules (3.11) no longer list them. Directories "
+                                      "that read 1.15 files take them; nothing to fix.")
                      : QStringLiteral(" is a value of the PAD 1.15 list that Brevaro writes; "
-                                      "the current rules (3.11) no longer list it.")) +
-                QStringLiteral(" Directories that read 1.15 files take it; nothing to fix.")));
+                                      "the current rules (3.11) no longer list it. Directories "
+                                      "that read 1.15 files take it; nothing to fix."))));
 }
 
 void checkRule(const PadWrittenValue& v, std::vector<PadFinding>& out) {
