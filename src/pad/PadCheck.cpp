@@ -174,9 +174,8 @@ void checkDate(const std::vector<PadWrittenValue>& values, const char* month, co
     if (QDate(y->value.toInt(), m->value.toInt(), d->value.toInt()).isValid())
         return;
     PadFinding f = finding(Severity::Warning, *d,
-                           QStringLiteral("%1/%2/%3 (month/day/year) is not a date of the "
-                                          "calendar")
-                               .arg(m->value, d->value, y->value));
+                           QStringLiteral("is not a date of the calendar (read as "
+                                          "month/day/year)"));
     f.value = QStringLiteral("%1/%2/%3").arg(m->value, d->value, y->value);
     out.push_back(std::move(f));
 }

@@ -163,8 +163,9 @@ std::vector<PadFinding> xmlTextProblems(const PadWrittenValue& v) {
         QString message;
         switch (kind) {
         case BareAmp:
-            message = QStringLiteral("a bare \"&\"%1 breaks the XML of the PAD file; type it as "
-                                     "\"&amp;\" (Brevaro writes the text exactly as typed)")
+            message = QStringLiteral("a bare \"&\"%1 breaks the XML of the PAD file; Brevaro "
+                                     "writes the text exactly as typed, so type \"&amp;\" for "
+                                     "it")
                           .arg(times);
             break;
         case UnknownRef:
@@ -181,7 +182,7 @@ std::vector<PadFinding> xmlTextProblems(const PadWrittenValue& v) {
                                 .arg(times)
                           : QStringLiteral("the tag \"%1\" breaks the XML of the PAD file and "
                                            "directories take no HTML; remove it, or type "
-                                           "\"&lt;\" for each \"<\"")
+                                           "\"&lt;\" and \"&gt;\" for the brackets")
                                 .arg(html);
             break;
         }
