@@ -13,29 +13,6 @@ QString portablePattern(QString pattern) {
     return pattern;
 }
 
-std::vector<PadFieldRule> parseRules() {
-    std::vector<PadFieldRule> rules;
-    const QStringList lines = QString::fromUtf8(kPadFieldRulesTsv).split(u'\n');
-    for (qsizetype i = 1; i < lines.size(); ++i) { // the first line names the columns
-        QString line = lines[i];
-        if (line.endsWith(u'\r'))
-            line.chop(1);
-        const QStringList cells = line.split(u'\t');
-        if (cells.size() < 5)
-            continue;
-        PadFieldRule rule;
-        rule.element = cells[0];
-        rule.path = cells[1];
-        rule.pattern = cells[2];
-        rule.regex = QRegularExpression(portablePattern(rule.pattern));
-        rule.meaning = cells[3];
-        rule.required = cells[4] == QLatin1String("yes");
-        Q_ASSERT_X(rule.regex.isValid(), "padFieldRules", qPrintable(rule.element));
-        rules.push_back(std::move(rule));
-    }
-    return rules;
-}
-
 // The standard's short meanings rewritten as advice; the first matching row wins, and a
 // meaning no row knows is quoted as it stands.
 struct Rewrite {
@@ -83,13 +60,7 @@ constexpr Rewrite kRewrites[] = {
     {"^Decimal major and minor version", "should be a version like 1.15"},
 };
 
-} // namespace
-
-bool PadFieldRule::accepts(const QString& value) const {
-    return regex.match(value).hasMatch();
-}
-
-QString PadFieldRule::advice() const {
+QString adviceFor(const QString& meaning) {
     for (const Rewrite& r : kRewrites) {
         const QRegularExpression from(QString::fromUtf8(r.meaning));
         if (from.match(meaning).hasMatch())
@@ -100,8 +71,39 @@ QString PadFieldRule::advice() const {
     return QStringLiteral("should follow the published rule: ") + meaning;
 }
 
+} // namespace
+
+bool PadFieldRule::accepts(const QString& value) const {
+    return regex.match(value).hasMatch();
+}
+
+// The table, parsed once; the advice of each rule is phrased here, once.
+std::vector<PadFieldRule> parsePadFieldRules() {
+    std::vector<PadFieldRule> rules;
+    const QStringList lines = QString::fromUtf8(kPadFieldRulesTsv).split(u'\n');
+    for (qsizetype i = 1; i < lines.size(); ++i) { // the first line names the columns
+        QString line = lines[i];
+        if (line.endsWith(u'\r'))
+            line.chop(1);
+        const QStringList cells = line.split(u'\t');
+        if (cells.size() < 5)
+            continue;
+        PadFieldRule rule;
+        rule.element = cells[0];
+        rule.path = cells[1];
+        rule.pattern = cells[2];
+        rule.regex = QRegularExpression(portablePattern(rule.pattern));
+        rule.meaning = cells[3];
+        rule.required = cells[4] == QLatin1String("yes");
+        rule.m_advice = adviceFor(rule.meaning);
+        Q_ASSERT_X(rule.regex.isValid(), "padFieldRules", qPrintable(rule.element));
+        rules.push_back(std::move(rule));
+    }
+    return rules;
+}
+
 const std::vector<PadFieldRule>& padFieldRules() {
-    static const std::vector<PadFieldRule> rules = parseRules();
+    static const std::vector<PadFieldRule> rules = parsePadFieldRules();
     return rules;
 }
 

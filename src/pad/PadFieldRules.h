@@ -21,7 +21,11 @@ struct PadFieldRule {
     // the text, or just before one final line break.
     bool accepts(const QString& value) const;
     // The meaning said to an author: "should be an e-mail address (name@domain.tld)", ...
-    QString advice() const;
+    const QString& advice() const { return m_advice; }
+
+private:
+    friend std::vector<PadFieldRule> parsePadFieldRules();
+    QString m_advice;
 };
 
 // Every rule, in the order of the table.
