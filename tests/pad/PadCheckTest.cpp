@@ -272,7 +272,7 @@ TEST(PadCheck, FindingsCarryTheFieldAndACutValue) {
     ProgramRecord program = cleanProgram();
     program.setNumber(PF::DescriptionActive, 1, 3);
     program.setText(PF::CharDesc2000,
-                    QString(QString(300, u'x') + QStringLiteral(" & ") + QString(300, u'y')), 3);
+                    QString(QString(300, u'x') + QStringLiteral("\r\n& ") + QString(300, u'y')), 3);
     const auto findings = checkPad(company, program);
     ASSERT_FALSE(findings.empty());
     const PadFinding& f = findings.front();
@@ -282,7 +282,11 @@ TEST(PadCheck, FindingsCarryTheFieldAndACutValue) {
     EXPECT_EQ(f.side, PadSide::Program);
     EXPECT_EQ(f.field, static_cast<int>(PF::CharDesc2000));
     EXPECT_EQ(f.entry, 3);
+    // Around the "&", on one line, cut at both ends.
     EXPECT_TRUE(f.value.contains(QStringLiteral("x & y"))) << f.value.toStdString();
+    EXPECT_TRUE(f.value.startsWith(QLatin1String("...")));
+    EXPECT_TRUE(f.value.endsWith(QLatin1String("...")));
+    EXPECT_FALSE(f.value.contains(u'\n'));
     EXPECT_LE(f.value.size(), 66);
 }
 
