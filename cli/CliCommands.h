@@ -30,6 +30,11 @@ int padCommand(CliContext& ctx, const QStringList& words);
 int webinfoCommand(CliContext& ctx, const QStringList& words);
 int verifyCommand(CliContext& ctx, const QStringList& words);
 int importCommand(CliContext& ctx, const QStringList& words);
+// The PAD check: findings one a line or as JSON; kCheckFoundErrors when there are errors.
+inline constexpr int kCheckFoundErrors = 3;
+int checkCommand(CliContext& ctx, const QStringList& words);
+// Ends the command with kCheckFoundErrors when the PAD file of the records has errors.
+void refusePadWithErrors(const CompanyRecord& company, const ProgramRecord& program);
 // Network commands.
 int keywordsCommand(CliContext& ctx, const QStringList& words);
 int sitesCommand(CliContext& ctx, const QStringList& words);

@@ -39,8 +39,10 @@ const QString kCrLf = QStringLiteral("\r\n");
 
 int padCommand(CliContext& ctx, const QStringList& words) {
     const CliArgs args(words, {QStringLiteral("-c"), QStringLiteral("-p"), QStringLiteral("-o")},
-                       {});
+                       {QStringLiteral("--check")});
     EditingSession& s = showProgram(ctx, args);
+    if (args.has(QStringLiteral("--check")))
+        refusePadWithErrors(s.company(), s.program());
     if (!args.has(QStringLiteral("-o"))) {
         ctx.printBytes(toWin1252(QString(CreatePADText(s.company(), s.program()) + kCrLf)));
         return 0;

@@ -1,0 +1,297 @@
+#include "pad/PadCheck.h"
+
+#include "pad/PadFieldRules.h"
+#include "pad/PadText.h"
+#include "records/ValueLists.h"
+
+#include <QDate>
+#include <QXmlStreamReader>
+#include <cmath>
+
+namespace brevaro {
+
+namespace {
+
+using Severity = PadFinding::Severity;
+using PF = ProgramField;
+
+PadFinding finding(Severity severity, const PadWrittenValue& v, const QString& message) {
+    PadFinding f;
+    f.severity = severity;
+    f.element = v.element;
+    f.label = v.label;
+    f.place = v.place;
+    f.value = excerpt(v.value);
+    f.message = message;
+    f.side = v.side;
+    f.field = v.field;
+    f.entry = v.entry;
+    return f;
+}
+
+// Elements whose 1.15 values come from a list of their own, which may differ from the
+// current rules' list: a value of the 1.15 list the rules no longer know is a note.
+struct ListElement {
+    const char* element;
+    const char16_t* control; // the list of the window; nullptr: the expiry kinds
+    bool severalItems;
+};
+constexpr ListElement kListElements[] = {
+    {"Country", u"cboCountry", false},
+    {"Program_Cost_Other_Code", u"cboCostOtherCurrency", false},
+    {"Program_Type", u"cboType", false},
+    {"Program_Release_Status", u"cboStatus", false},
+    {"Program_Install_Support", u"cboInstallSupport", false},
+    {"Program_OS_Support", u"lstSupportedOS", true},
+    {"Program_Language", u"lstLanguages", true},
+    {"Expire_Based_On", nullptr, false},
+    {"Program_Specific_Category", u"cboSpecificCategory", false},
+};
+
+const ListElement* listElement(const QString& element) {
+    for (const auto& l : kListElements)
+        if (element == QLatin1String(l.element))
+            return &l;
+    return nullptr;
+}
+
+QStringList oldList(const ListElement& l) {
+    if (!l.control)
+        return {QStringLiteral("Days"), QStringLiteral("Uses"), QStringLiteral("Either/Or"),
+                QStringLiteral("Date")};
+    return valueList(l.control).items;
+}
+
+QString quotedList(const QStringList& items) {
+    return u'"' + items.join(QStringLiteral("\", \"")) + u'"';
+}
+
+void checkListValue(const PadWrittenValue& v, const QString& parsed, const PadFieldRule& rule,
+                    const ListElement& list, std::vector<PadFinding>& out) {
+    const QStringList items =
+        list.severalItems ? parsed.split(u',', Qt::SkipEmptyParts) : QStringList{parsed};
+    QStringList older, unknown;
+    const QStringList known = oldList(list);
+    for (const QString& item : items) {
+        if (rule.accepts(item))
+            continue;
+        (known.contains(item) ? older : unknown) << item;
+    }
+    if (!unknown.isEmpty())
+        out.push_back(finding(
+            Severity::Warning, v,
+            quotedList(unknown) +
+                (unknown.size() > 1 ? QStringLiteral(" are") : QStringLiteral(" is")) +
+                QStringLiteral(" in neither the 1.15 list nor the current one; ") + rule.advice()));
+    if (!older.isEmpty())
+        out.push_back(finding(
+            Severity::Note, v,
+            quotedList(older) +
+                (older.size() > 1
+                     ? QStringLiteral(" are values of the PAD 1.15 list that Brevaro writes; "
+                                      "the current rules (3.11) no longer list them. Directories "
+                                      "that read 1.15 files take them; nothing to fix.")
+                     : QStringLiteral(" is a value of the PAD 1.15 list that Brevaro writes; "
+                                      "the current rules (3.11) no longer list it. Directories "
+                                      "that read 1.15 files take it; nothing to fix."))));
+}
+
+void checkRule(const PadWrittenValue& v, std::vector<PadFinding>& out) {
+    const PadFieldRule* rule = padFieldRule(v.element);
+    if (!rule)
+        return;
+    const QString parsed = xmlParsedText(v.value);
+    if (parsed.isEmpty()) {
+        if (rule->required)
+            out.push_back(finding(Severity::Warning, v,
+                                  QStringLiteral("is required by the published rules but empty; "
+                                                 "it ") +
+                                      rule->advice()));
+        return;
+    }
+    if (const ListElement* list = listElement(v.element))
+        return checkListValue(v, parsed, *rule, *list, out);
+    if (rule->accepts(parsed))
+        return;
+    // The published patterns are case-sensitive ("screen.GIF" fails).
+    const QString hint = rule->accepts(parsed.toLower())
+                             ? QStringLiteral(" (the rule takes lower-case letters only)")
+                             : QString();
+    out.push_back(finding(Severity::Warning, v, rule->advice() + hint));
+}
+
+const PadWrittenValue* find(const std::vector<PadWrittenValue>& values, const char* element) {
+    for (const auto& v : values)
+        if (v.element == QLatin1String(element))
+            return &v;
+    return nullptr;
+}
+
+bool isDigits(const QString& s) {
+    static const QRegularExpression digits(QStringLiteral("^[0-9]+$"));
+    return digits.match(s).hasMatch();
+}
+
+// The file sizes as File Info computes them: KB and MB rounded half away from zero.
+void checkSizes(const std::vector<PadWrittenValue>& values, std::vector<PadFinding>& out) {
+    const PadWrittenValue* bytes = find(values, "File_Size_Bytes");
+    const PadWrittenValue* kb = find(values, "File_Size_K");
+    const PadWrittenValue* mb = find(values, "File_Size_MB");
+    if (!bytes || !isDigits(bytes->value) || bytes->value.size() > 15)
+        return;
+    const qint64 n = bytes->value.toLongLong();
+    const QString wantK = QString::number((2 * n + 1024) / 2048);
+    const qint64 hundredths = (200 * n + 1048576) / 2097152;
+    const QString wantM = QStringLiteral("%1.%2")
+                              .arg(hundredths / 100)
+                              .arg(hundredths % 100, 2, 10, QLatin1Char('0'));
+    // Another tool's rounding (down rather than to the nearest) is accepted.
+    auto check = [&](const PadWrittenValue* v, double exact, double slack, const QString& want,
+                     const char* unit) {
+        bool ok = false;
+        const double given = v ? v->value.toDouble(&ok) : 0;
+        if (!v || !ok || std::abs(given - exact) < slack)
+            return;
+        out.push_back(finding(Severity::Warning, *v,
+                              QStringLiteral("does not agree with Size Bytes %1: that is %2 %3")
+                                  .arg(bytes->value, want, QLatin1String(unit))));
+    };
+    check(kb, double(n) / 1024.0, 1.0, wantK, "KB");
+    check(mb, double(n) / 1048576.0, 0.0100001, wantM, "MB");
+}
+
+// A month, day and year that each follow their rule but make no date of the calendar.
+void checkDate(const std::vector<PadWrittenValue>& values, const char* month, const char* day,
+               const char* year, std::vector<PadFinding>& out) {
+    const PadWrittenValue* m = find(values, month);
+    const PadWrittenValue* d = find(values, day);
+    const PadWrittenValue* y = find(values, year);
+    if (!m || !d || !y)
+        return;
+    for (const PadWrittenValue* part : {m, d, y})
+        if (part->value.isEmpty() || !padFieldRule(part->element)->accepts(part->value))
+            return;
+    if (QDate(y->value.toInt(), m->value.toInt(), d->value.toInt()).isValid())
+        return;
+    PadFinding f = finding(Severity::Warning, *d,
+                           QStringLiteral("is not a date of the calendar (read as "
+                                          "month/day/year)"));
+    f.value = QStringLiteral("%1/%2/%3").arg(m->value, d->value, y->value);
+    out.push_back(std::move(f));
+}
+
+// An expiry needs its count, or its date.
+void checkExpiry(const ProgramRecord& p, const std::vector<PadWrittenValue>& values,
+                 std::vector<PadFinding>& out) {
+    const PadWrittenValue* has = find(values, "Has_Expire_Info");
+    if (!has || has->value != QLatin1String("Y"))
+        return;
+    if (p.number(PF::ExpireBasedOn, 3) != 0) {
+        const bool complete = !p.text(PF::ExpireMonth).isEmpty() &&
+                              !p.text(PF::ExpireDay).isEmpty() && !p.text(PF::ExpireYear).isEmpty();
+        if (!complete)
+            out.push_back(finding(Severity::Warning, *find(values, "Expire_Month"),
+                                  QStringLiteral("the program expires on a date, but month, "
+                                                 "day and year are not all chosen")));
+        return;
+    }
+    const QString kind = expireBasedOnCaption(p);
+    if (kind.isEmpty()) {
+        out.push_back(finding(Severity::Warning, *has,
+                              QStringLiteral("the program expires, but neither Days, Uses, "
+                                             "Either/Or nor a date is chosen")));
+        return;
+    }
+    const PadWrittenValue* count = find(values, "Expire_Count");
+    if (count && count->value.isEmpty())
+        out.push_back(finding(Severity::Warning, *count,
+                              QStringLiteral("the program expires after a number of %1, but "
+                                             "the number is empty")
+                                  .arg(kind.toLower())));
+}
+
+// The five bytes Windows-1252 leaves undefined are written unchanged; many readers refuse them.
+void checkCharacterSet(const PadWrittenValue& v, std::vector<PadFinding>& out) {
+    for (qsizetype i = 0; i < v.value.size(); ++i) {
+        const char16_t u = v.value[i].unicode();
+        if (u == 0x81 || u == 0x8D || u == 0x8F || u == 0x90 || u == 0x9D) {
+            PadFinding f = finding(Severity::Warning, v,
+                                   QStringLiteral("holds byte 0x%1, which has no character in "
+                                                  "Windows-1252 and which many readers refuse; "
+                                                  "remove it")
+                                       .arg(QString::number(u, 16).toUpper()));
+            f.value = excerpt(v.value, i);
+            out.push_back(std::move(f));
+            return;
+        }
+    }
+}
+
+// A document error that no value explains (a safety net for the writer's own texts).
+void checkDocument(const CompanyRecord& company, const ProgramRecord& program,
+                   std::vector<PadFinding>& out) {
+    QXmlStreamReader reader(CreatePADText(company, program));
+    while (!reader.atEnd())
+        reader.readNext();
+    if (!reader.hasError())
+        return;
+    PadFinding f;
+    f.severity = Severity::Error;
+    f.message = QStringLiteral("the PAD file would not be well-formed XML (line %1: %2)")
+                    .arg(reader.lineNumber())
+                    .arg(reader.errorString());
+    out.push_back(std::move(f));
+}
+
+} // namespace
+
+std::vector<PadFinding> checkPad(const CompanyRecord& company, const ProgramRecord& program) {
+    const std::vector<PadWrittenValue> values = padWrittenValues(company, program);
+    std::vector<PadFinding> found;
+    bool valueErrors = false;
+    for (const auto& v : values) {
+        auto errors = xmlTextProblems(v);
+        valueErrors = valueErrors || !errors.empty();
+        found.insert(found.end(), errors.begin(), errors.end());
+        checkCharacterSet(v, found);
+        // A value that breaks the XML is not held against the rules as well.
+        if (errors.empty())
+            checkRule(v, found);
+    }
+    if (!valueErrors)
+        checkDocument(company, program, found);
+    checkSizes(values, found);
+    checkDate(values, "Program_Release_Month", "Program_Release_Day", "Program_Release_Year",
+              found);
+    checkDate(values, "Expire_Month", "Expire_Day", "Expire_Year", found);
+    checkExpiry(program, values, found);
+    if (const PadWrittenValue* categories = find(values, "Program_Categories"))
+        found.push_back(
+            finding(Severity::Note, *categories,
+                    QStringLiteral("PAD 1.15 writes Possible Categories as Program_Categories; the "
+                                   "current rules ask for Program_Category_Class from their own "
+                                   "\"Main::Sub\" list, which a 1.15 file does not carry")));
+    std::stable_sort(found.begin(), found.end(), [](const PadFinding& a, const PadFinding& b) {
+        return a.severity < b.severity;
+    });
+    return found;
+}
+
+QString severityName(PadFinding::Severity severity) {
+    switch (severity) {
+    case Severity::Error:
+        return QStringLiteral("error");
+    case Severity::Warning:
+        return QStringLiteral("warning");
+    case Severity::Note:
+        return QStringLiteral("note");
+    }
+    return QString();
+}
+
+bool hasErrors(const std::vector<PadFinding>& findings) {
+    return std::any_of(findings.begin(), findings.end(),
+                       [](const PadFinding& f) { return f.severity == Severity::Error; });
+}
+
+} // namespace brevaro

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "pad/PadWrittenValues.h"
+
+#include <QString>
+#include <vector>
+
+namespace brevaro {
+
+// One thing the PAD check found in a value of the document Create PAD would write.
+struct PadFinding {
+    // Error: the document would not be well-formed XML. Warning: a published field rule is
+    // broken, or values disagree. Note: where PAD 1.15 and the current rules differ; nothing
+    // for the author to fix.
+    enum class Severity { Error, Warning, Note };
+
+    Severity severity = Severity::Warning;
+    QString element; // the PAD element, e.g. "Company_Name"; empty for the whole document
+    QString label;   // the field's label as the window shows it, e.g. "Name"
+    QString place;   // its tab, and frame or language, e.g. "Company Info, Author"
+    QString value;   // the offending value, cut short
+    QString message; // what is wrong and how to fix it, in plain words
+    PadSide side = PadSide::None;
+    int field = -1;
+    int entry = 0;
+};
+
+// Checks what Create PAD would write for the two records; changes nothing. Errors come
+// first, then warnings, then notes, each in the order of the document.
+std::vector<PadFinding> checkPad(const CompanyRecord& company, const ProgramRecord& program);
+
+// "error", "warning" or "note".
+QString severityName(PadFinding::Severity severity);
+bool hasErrors(const std::vector<PadFinding>& findings);
+
+// The problems that keep a written value from being well-formed XML text, one finding per
+// kind (bare "&", unknown reference, "<", ">", a control character), in the order met.
+std::vector<PadFinding> xmlTextProblems(const PadWrittenValue& value);
+// The text an XML parser reads from a written value: references replaced by their
+// characters, line breaks as LF.
+QString xmlParsedText(const QString& written);
+// The value cut to at most 60 characters around position at, line breaks shown as blanks.
+QString excerpt(const QString& value, qsizetype at = 0);
+
+} // namespace brevaro

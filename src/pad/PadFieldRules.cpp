@@ -1,0 +1,117 @@
+#include "pad/PadFieldRules.h"
+
+#include "PadFieldRulesData.h"
+
+namespace brevaro {
+
+namespace {
+
+// The published patterns end in "\Z"; PCRE's own "\Z" already means "end, or before a final
+// line break", but it is spelt out so that the sense does not hang on the newline convention.
+QString portablePattern(QString pattern) {
+    pattern.replace(QStringLiteral("\\Z"), QStringLiteral("\\n?\\z"));
+    return pattern;
+}
+
+// The standard's short meanings rewritten as advice; the first matching row wins, and a
+// meaning no row knows is quoted as it stands.
+struct Rewrite {
+    const char* meaning;
+    const char* advice;
+};
+constexpr Rewrite kRewrites[] = {
+    {"^Text string (\\d+)-(\\d+) alphabetic$",
+     "should be \\1 to \\2 letters (blanks, ' and - allowed)"},
+    {"^Text string 0-(\\d+) characters$", "should be at most \\1 characters, without < and tabs"},
+    {"^Text string (\\d+)-(\\d+) characters$",
+     "should be a text of \\1 to \\2 characters, without < and tabs"},
+    {"^Email address", "should be an e-mail address (name@domain.tld)"},
+    {"^Numeric with punctuations \\(allowed: (.*)\\) (\\d+)-(\\d+) characters$",
+     "should be a phone number of \\2 to \\3 digits and the signs \\1, with an optional leading +"},
+    {"^Alphanumeric with punctuations \\(allowed: (.*)\\) (\\d+)-(\\d+) characters$",
+     "should be \\2 to \\3 letters, digits and \\1 only (no blanks)"},
+    {"^2 digits (\\d+)-(\\d+)$", "should be two digits from \\1 to \\2"},
+    {"^4 digits (\\d+)-(\\d+)$", "should be a year from \\1 to \\2 in four digits"},
+    {"^Numeric 2 digits$", "should be two digits (or empty)"},
+    {"^Numeric 4 digits \\((\\d+)-(\\d+)\\)$",
+     "should be a year from \\1 to \\2 in four digits (or empty)"},
+    {"^Numeric with \"\\.\" as decimal separator$",
+     "should be a number with \".\" and two decimals, e.g. 29 or 29.95"},
+    {"^Numerical (\\d+)-(\\d+) digits$", "should be a number of \\1 to \\2 digits"},
+    {"^Y, y, N, or n$", "should be Y or N"},
+    {"^(.*) identifiers?, must be selected from list",
+     "should be one of the values of the published list"},
+    {"^Three letter currency code", "should be a three-letter currency code of the published list"},
+    {"^Operating system ids", "should name systems of the published list"},
+    {"^Single line \\(no breaks, no HTML\\) text string 0-(\\d+) characters$",
+     "should be one line of at most \\1 characters, without < and tabs"},
+    {"^Multiple lines \\(no HTML\\) text string 0-(\\d+) characters$",
+     "should be at most \\1 characters, without <"},
+    {"^URL http:// \\+ 2-120 characters with extension gif, jpg, or png$",
+     "should be an http:// address of an image ending in .gif, .jpg or .png"},
+    {"^URL http:// \\+ 2-120 characters with extension xml$",
+     "should be an http:// address ending in .xml (or .cgi, .php, .asp)"},
+    {"^URL http:// \\+ 2-120 characters \\(https:// ok too\\)$",
+     "should be an http:// or https:// address"},
+    {"^URL http:// \\+ 2-120 characters$", "should be an http:// address (not https://)"},
+    {"^URL ftp or http:// \\+ 2-120 characters",
+     "should be an http:// or ftp:// address of the file, ending in .exe, .zip, .msi, .dmg, "
+     "... (not a web page)"},
+    {"^Decimal major and minor version", "should be a version like 1.15"},
+};
+
+QString adviceFor(const QString& meaning) {
+    for (const Rewrite& r : kRewrites) {
+        const QRegularExpression from(QString::fromUtf8(r.meaning));
+        if (from.match(meaning).hasMatch())
+            return QString(meaning).replace(
+                QRegularExpression(from.pattern() + QStringLiteral(".*$")),
+                QString::fromUtf8(r.advice));
+    }
+    return QStringLiteral("should follow the published rule: ") + meaning;
+}
+
+} // namespace
+
+bool PadFieldRule::accepts(const QString& value) const {
+    return regex.match(value).hasMatch();
+}
+
+// The table, parsed once; the advice of each rule is phrased here, once.
+std::vector<PadFieldRule> parsePadFieldRules() {
+    std::vector<PadFieldRule> rules;
+    const QStringList lines = QString::fromUtf8(kPadFieldRulesTsv).split(u'\n');
+    for (qsizetype i = 1; i < lines.size(); ++i) { // the first line names the columns
+        QString line = lines[i];
+        if (line.endsWith(u'\r'))
+            line.chop(1);
+        const QStringList cells = line.split(u'\t');
+        if (cells.size() < 5)
+            continue;
+        PadFieldRule rule;
+        rule.element = cells[0];
+        rule.path = cells[1];
+        rule.pattern = cells[2];
+        rule.regex = QRegularExpression(portablePattern(rule.pattern));
+        rule.meaning = cells[3];
+        rule.required = cells[4] == QLatin1String("yes");
+        rule.m_advice = adviceFor(rule.meaning);
+        Q_ASSERT_X(rule.regex.isValid(), "padFieldRules", qPrintable(rule.element));
+        rules.push_back(std::move(rule));
+    }
+    return rules;
+}
+
+const std::vector<PadFieldRule>& padFieldRules() {
+    static const std::vector<PadFieldRule> rules = parsePadFieldRules();
+    return rules;
+}
+
+const PadFieldRule* padFieldRule(QStringView element) {
+    for (const auto& rule : padFieldRules())
+        if (rule.element == element)
+            return &rule;
+    return nullptr;
+}
+
+} // namespace brevaro

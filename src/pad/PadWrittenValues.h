@@ -1,0 +1,33 @@
+#pragma once
+
+#include "records/CompanyRecord.h"
+#include "records/ProgramRecord.h"
+
+#include <QString>
+#include <vector>
+
+namespace brevaro {
+
+// Which record a value comes from; the order is that of the control table's RecordSide.
+enum class PadSide { None, Company, Program };
+
+// One value element of the PAD document as the writer writes it, with the field it comes from
+// and the field's label as the window shows it (place: the tab, and the frame or language).
+struct PadWrittenValue {
+    QString element;
+    QString value;
+    QString label;
+    QString place;
+    PadSide side = PadSide::None;
+    int field = -1; // index into the record layout of side
+    int entry = 0;  // entry of an array field (the description language)
+};
+
+// The author's values of the PAD document of the two records, in the writer's order: every
+// text element, the system and language lists, the expiry elements written for the chosen
+// expiry, the descriptions of the active languages and the texts of the active extensions.
+// Fixed texts (the master version block, Y/N flags other than Has_Expire_Info) are left out.
+std::vector<PadWrittenValue> padWrittenValues(const CompanyRecord& company,
+                                              const ProgramRecord& program);
+
+} // namespace brevaro

@@ -1,0 +1,219 @@
+#include "pad/PadCheck.h"
+
+#include <QRegularExpression>
+
+namespace brevaro {
+
+namespace {
+
+const QString kNamed[] = {QStringLiteral("amp"), QStringLiteral("lt"), QStringLiteral("gt"),
+                          QStringLiteral("quot"), QStringLiteral("apos")};
+const QChar kNamedChars[] = {u'&', u'<', u'>', u'"', u'\''};
+
+// A reference starting at an "&": its length and the character it stands for (0 when the
+// reference is well formed but names no character XML knows); length 0 when it is no
+// reference at all.
+struct Reference {
+    qsizetype length = 0;
+    char32_t character = 0;
+    QString name;
+};
+
+Reference referenceAt(const QString& s, qsizetype at) {
+    static const QRegularExpression ref(
+        QStringLiteral("&(#[0-9]+|#x[0-9A-Fa-f]+|[A-Za-z_:][A-Za-z0-9_:.-]*);"));
+    const auto m = ref.match(s, at, QRegularExpression::NormalMatch,
+                             QRegularExpression::AnchorAtOffsetMatchOption);
+    if (!m.hasMatch())
+        return {};
+    Reference r;
+    r.length = m.capturedLength();
+    r.name = m.captured(1);
+    if (r.name.startsWith(u'#')) {
+        bool ok = false;
+        const uint code = r.name.startsWith(QLatin1String("#x")) ? r.name.mid(2).toUInt(&ok, 16)
+                                                                 : r.name.mid(1).toUInt(&ok);
+        const bool legal =
+            ok && (code == 0x9 || code == 0xA || code == 0xD || (code >= 0x20 && code <= 0xD7FF) ||
+                   (code >= 0xE000 && code <= 0xFFFD) || (code >= 0x10000 && code <= 0x10FFFF));
+        r.character = legal ? code : 0;
+        return r;
+    }
+    for (std::size_t i = 0; i < std::size(kNamed); ++i)
+        if (r.name == kNamed[i])
+            r.character = kNamedChars[i].unicode();
+    return r;
+}
+
+bool illegalControl(QChar ch) {
+    const char16_t u = ch.unicode();
+    return (u < 0x20 && u != 0x9 && u != 0xA && u != 0xD) || u == 0xFFFE || u == 0xFFFF;
+}
+
+// The text with every bare "&", every "<" and every ">" escaped; references kept.
+QString escapedText(const QString& s) {
+    QString out;
+    for (qsizetype i = 0; i < s.size(); ++i) {
+        const QChar ch = s[i];
+        if (ch == u'&' && referenceAt(s, i).length == 0)
+            out += QStringLiteral("&amp;");
+        else if (ch == u'<')
+            out += QStringLiteral("&lt;");
+        else if (ch == u'>')
+            out += QStringLiteral("&gt;");
+        else
+            out += ch;
+    }
+    return out;
+}
+
+// Every kind of problem once, with the first place it occurs and how often it does.
+enum Kind { BareAmp, UnknownRef, Less, Greater, Control, KindCount };
+
+} // namespace
+
+QString excerpt(const QString& value, qsizetype at) {
+    constexpr qsizetype kMax = 60;
+    QString flat = value;
+    flat.replace(QStringLiteral("\r\n"), QStringLiteral(" "))
+        .replace(u'\n', u' ')
+        .replace(u'\r', u' ');
+    if (flat.size() <= kMax)
+        return flat;
+    const qsizetype from = std::clamp<qsizetype>(at - kMax / 3, 0, flat.size() - kMax);
+    return (from > 0 ? QStringLiteral("...") : QString()) + flat.mid(from, kMax) +
+           (from + kMax < flat.size() ? QStringLiteral("...") : QString());
+}
+
+QString xmlParsedText(const QString& written) {
+    QString out;
+    out.reserve(written.size());
+    for (qsizetype i = 0; i < written.size(); ++i) {
+        const QChar ch = written[i];
+        if (ch == u'\r') {
+            out += u'\n';
+            if (i + 1 < written.size() && written[i + 1] == u'\n')
+                ++i;
+            continue;
+        }
+        if (ch == u'&') {
+            const Reference r = referenceAt(written, i);
+            if (r.length > 0 && r.character != 0) {
+                out += QString::fromUcs4(&r.character, 1);
+                i += r.length - 1;
+                continue;
+            }
+        }
+        out += ch;
+    }
+    return out;
+}
+
+std::vector<PadFinding> xmlTextProblems(const PadWrittenValue& v) {
+    qsizetype first[KindCount];
+    int count[KindCount] = {};
+    QString unknownName;
+    QChar control;
+    QString firstTag;
+    const QString& s = v.value;
+    static const QRegularExpression tag(QStringLiteral("</?[A-Za-z][^<>&]*>"));
+    for (qsizetype i = 0; i < s.size(); ++i) {
+        int kind = -1;
+        const QChar ch = s[i];
+        if (ch == u'&') {
+            const Reference r = referenceAt(s, i);
+            if (r.length == 0) {
+                kind = BareAmp;
+            } else {
+                if (r.character == 0) {
+                    kind = UnknownRef;
+                    if (unknownName.isEmpty())
+                        unknownName = s.mid(i, r.length);
+                }
+                i += r.length - 1;
+            }
+        } else if (ch == u'<') {
+            kind = Less;
+            // A whole tag counts once: its ">" is not reported again.
+            const auto m = tag.match(s, i, QRegularExpression::NormalMatch,
+                                     QRegularExpression::AnchorAtOffsetMatchOption);
+            if (m.hasMatch()) {
+                if (count[Less] == 0)
+                    firstTag = m.captured(0);
+                i += m.capturedLength() - 1;
+            }
+        } else if (ch == u'>') {
+            kind = Greater;
+        } else if (illegalControl(ch)) {
+            kind = Control;
+            if (control.isNull())
+                control = ch;
+        }
+        if (kind < 0)
+            continue;
+        if (count[kind]++ == 0)
+            first[kind] = i;
+    }
+    std::vector<PadFinding> out;
+    for (int kind = 0; kind < KindCount; ++kind) {
+        if (count[kind] == 0)
+            continue;
+        const QString times =
+            count[kind] > 1 ? QStringLiteral(" (%1 times)").arg(count[kind]) : QString();
+        QString message;
+        switch (kind) {
+        case BareAmp:
+            message = QStringLiteral("a bare \"&\"%1 breaks the XML of the PAD file; Brevaro "
+                                     "writes the text exactly as typed, so type \"&amp;\" for "
+                                     "it")
+                          .arg(times);
+            break;
+        case UnknownRef:
+            message = QStringLiteral("\"%1\"%2 is not a reference XML knows (only &amp; &lt; "
+                                     "&gt; &quot; &apos; and numbers like &#169;); type the "
+                                     "character itself, or \"&amp;\" for the \"&\"")
+                          .arg(unknownName, times);
+            break;
+        case Less: {
+            const QString& html = firstTag;
+            message = html.isEmpty()
+                          ? QStringLiteral("a \"<\"%1 breaks the XML of the PAD file; type it "
+                                           "as \"&lt;\"")
+                                .arg(times)
+                          : QStringLiteral("the tag \"%1\" breaks the XML of the PAD file and "
+                                           "directories take no HTML; remove it, or type "
+                                           "\"&lt;\" and \"&gt;\" for the brackets")
+                                .arg(html);
+            break;
+        }
+        case Greater:
+            message = QStringLiteral("a \">\"%1 is written as typed; type it as \"&gt;\" so that "
+                                     "every PAD reader takes it")
+                          .arg(times);
+            break;
+        case Control:
+            message =
+                QStringLiteral("the control character U+%1%2 is not allowed in XML; "
+                               "remove it")
+                    .arg(QString::number(control.unicode(), 16).toUpper().rightJustified(4, u'0'))
+                    .arg(times);
+            break;
+        }
+        if (kind == BareAmp || kind == Less || kind == Greater)
+            message += QStringLiteral(": \"%1\"").arg(excerpt(escapedText(s), first[kind]));
+        PadFinding f;
+        f.severity = PadFinding::Severity::Error;
+        f.element = v.element;
+        f.label = v.label;
+        f.place = v.place;
+        f.value = excerpt(s, first[kind]);
+        f.message = message;
+        f.side = v.side;
+        f.field = v.field;
+        f.entry = v.entry;
+        out.push_back(std::move(f));
+    }
+    return out;
+}
+
+} // namespace brevaro

@@ -1,0 +1,150 @@
+#include "CleanRecords.h"
+#include "CliTestSupport.h"
+#include "pad/PadText.h"
+#include "records/Win1252.h"
+#include "store/RecordStore.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <gtest/gtest.h>
+
+using namespace brevaro;
+using namespace brevaro::test;
+
+namespace {
+
+QStringList words(std::initializer_list<const char*> list) {
+    QStringList out;
+    for (const char* w : list)
+        out << QString::fromUtf8(w);
+    return out;
+}
+
+// A home holding the clean records as company 1, program 1, with the company name given.
+void storeClean(const TempHome& t, const char16_t* companyName = u"Smith Software") {
+    CompanyRecord company = cleanCompany();
+    company.setText(CompanyField::CompanyName, QStringView(companyName));
+    RecordStore store(t.home());
+    store.writeCompany(1, company);
+    store.writeProgram(1, 1, cleanProgram());
+}
+
+// Every file of the home with its bytes.
+QMap<QString, QByteArray> homeFiles(const TempHome& t) {
+    QMap<QString, QByteArray> files;
+    for (QDirIterator it(t.path(), QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
+        const QString path = it.next();
+        if (!path.endsWith(QLatin1String(".lock")))
+            files.insert(path, readBytes(path));
+    }
+    return files;
+}
+
+} // namespace
+
+TEST(CliCheck, CleanRecordsPassWithNotesOnly) {
+    TempHome t;
+    storeClean(t);
+    const auto before = homeFiles(t);
+    const CliResult r = runCliIn(t, words({"check", "-c", "1", "-p", "Tidy Notes"}));
+    ASSERT_EQ(r.status, 0) << r.err.toStdString();
+    const QStringList lines = QString::fromUtf8(r.out).split(u'\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(lines.size(), 1);
+    EXPECT_TRUE(lines[0].startsWith(QStringLiteral("note\tProgram_Categories\tPossible Categories "
+                                                   "(Program Info) \"Text Editors\": ")))
+        << lines[0].toStdString();
+    EXPECT_EQ(homeFiles(t), before) << "check writes nothing";
+}
+
+TEST(CliCheck, ErrorsGiveStatusThreeAndOneLineEach) {
+    TempHome t;
+    storeClean(t, u"Smith & Sons");
+    const CliResult r = runCliIn(t, words({"check", "-c", "Smith & Sons", "-p", "1"}));
+    EXPECT_EQ(r.status, 3);
+    const QStringList lines = QString::fromUtf8(r.out).split(u'\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_EQ(lines[0].section(u'\t', 0, 1), QStringLiteral("error\tCompany_Name"));
+    EXPECT_TRUE(lines[0].section(u'\t', 2).startsWith(
+        QStringLiteral("Name (Company Info) \"Smith & Sons\": a bare \"&\"")))
+        << lines[0].toStdString();
+    EXPECT_EQ(lines[0].count(u'\t'), 2);
+    EXPECT_TRUE(lines[1].startsWith(QStringLiteral("note\t")));
+
+    const CliResult json = runCliIn(t, words({"check", "-c", "1", "-p", "1", "--json"}));
+    EXPECT_EQ(json.status, 3);
+    const QJsonArray array = QJsonDocument::fromJson(json.out).array();
+    ASSERT_EQ(array.size(), 2);
+    const QJsonObject first = array[0].toObject();
+    EXPECT_EQ(first[QStringLiteral("severity")].toString(), QStringLiteral("error"));
+    EXPECT_EQ(first[QStringLiteral("element")].toString(), QStringLiteral("Company_Name"));
+    EXPECT_EQ(first[QStringLiteral("label")].toString(), QStringLiteral("Name"));
+    EXPECT_EQ(first[QStringLiteral("value")].toString(), QStringLiteral("Smith & Sons"));
+    EXPECT_TRUE(first[QStringLiteral("message")].toString().contains(QStringLiteral("&amp;")));
+}
+
+TEST(CliCheck, BadInputAndUsage) {
+    TempHome t;
+    storeClean(t);
+    EXPECT_EQ(runCliIn(t, words({"check", "-c", "2", "-p", "1"})).status, 2);
+    EXPECT_EQ(runCliIn(t, words({"check", "-c", "1", "-p", "Nothing"})).status, 2);
+    EXPECT_EQ(runCliIn(t, words({"check", "-c", "1"})).status, 1);
+    EXPECT_EQ(runCliIn(t, words({"check", "-c", "1", "-p", "1", "extra"})).status, 1);
+}
+
+TEST(CliCheck, PadRefusesToWriteAFileWithErrors) {
+    TempHome t;
+    storeClean(t, u"Smith & Sons");
+    const QString file = t.file(QStringLiteral("out.xml"));
+    const CliResult refused =
+        runCliIn(t, QStringList{QStringLiteral("pad"), QStringLiteral("-c"), QStringLiteral("1"),
+                                QStringLiteral("-p"), QStringLiteral("1"), QStringLiteral("-o"),
+                                file, QStringLiteral("--check")});
+    EXPECT_EQ(refused.status, 3);
+    EXPECT_TRUE(refused.err.startsWith(QStringLiteral("brevaro-cli: the PAD file was not written: "
+                                                      "1 error(s), the first in Company_Name")))
+        << refused.err.toStdString();
+    EXPECT_FALSE(QFileInfo::exists(file));
+    EXPECT_FALSE(QFileInfo::exists(t.file(QStringLiteral("out.htm"))));
+    EXPECT_EQ(runCliIn(t, words({"pad", "-c", "1", "-p", "1", "--check"})).out, QByteArray());
+    // Without --check the same file is written as before.
+    EXPECT_EQ(runCliIn(t, words({"pad", "-c", "1", "-p", "1"})).status, 0);
+}
+
+TEST(CliCheck, PadWithCheckWritesTheSameBytesWhenThereAreNoErrors) {
+    TempHome t;
+    storeClean(t);
+    const CliResult plain = runCliIn(t, words({"pad", "-c", "1", "-p", "1"}));
+    const CliResult checked = runCliIn(t, words({"pad", "-c", "1", "-p", "1", "--check"}));
+    ASSERT_EQ(checked.status, 0) << checked.err.toStdString();
+    EXPECT_EQ(checked.out, plain.out);
+    EXPECT_EQ(checked.out, toWin1252(QString(CreatePADText(cleanCompany(), cleanProgram()) +
+                                             QStringLiteral("\r\n"))));
+}
+
+// The published sample files after import: only dnGrep's "System Requirements" breaks the XML
+// (a bare ">"); the others are well-formed and get warnings and notes.
+TEST(CliCheck, SamplesAfterImport) {
+    const std::pair<const char*, int> samples[] = {{"dnGrep__dnGrep__pad.xml", 3},
+                                                   {"kalsky__FastWrite__pad.xml", 0},
+                                                   {"sth__ups__PAD.xml", 0},
+                                                   {"t-d-k__LibreCrypt__PAD.xml", 0}};
+    for (const auto& [name, status] : samples) {
+        SCOPED_TRACE(name);
+        TempHome t;
+        const QString path = QStringLiteral(BREVARO_SAMPLES "/") + QLatin1String(name);
+        ASSERT_EQ(runCliIn(t, QStringList{QStringLiteral("import"), path}).status, 0);
+        const CliResult r = runCliIn(t, words({"check", "-c", "1", "-p", "1"}));
+        EXPECT_EQ(r.status, status) << r.out.toStdString();
+        const QStringList lines = QString::fromUtf8(r.out).split(u'\n', Qt::SkipEmptyParts);
+        EXPECT_GT(lines.size(), 3);
+        for (const QString& line : lines)
+            EXPECT_EQ(line.count(u'\t'), 2) << line.toStdString();
+        if (status == 3) {
+            EXPECT_TRUE(lines[0].startsWith(
+                QStringLiteral("error\tProgram_System_Requirements\tSystem Requirements")));
+        }
+    }
+}

@@ -1,0 +1,309 @@
+#include "pad/PadCheck.h"
+#include "CleanRecords.h"
+#include "FullRecords.h"
+#include "TestSupport.h"
+#include "pad/PadFieldRules.h"
+#include "pad/PadText.h"
+#include "pad/VerificationReport.h"
+#include "pad/WebInfo.h"
+
+#include <QXmlStreamReader>
+#include <functional>
+#include <gtest/gtest.h>
+
+using namespace brevaro;
+using namespace brevaro::test;
+
+namespace {
+
+using CF = CompanyField;
+using PF = ProgramField;
+using Severity = PadFinding::Severity;
+using Change = std::function<void(CompanyRecord&, ProgramRecord&)>;
+
+std::vector<PadFinding> notNotes(const std::vector<PadFinding>& all) {
+    std::vector<PadFinding> out;
+    for (const auto& f : all)
+        if (f.severity != Severity::Note)
+            out.push_back(f);
+    return out;
+}
+
+QString describe(const std::vector<PadFinding>& findings) {
+    QString text;
+    for (const auto& f : findings)
+        text +=
+            severityName(f.severity) + u' ' + f.element + QStringLiteral(": ") + f.message + u'\n';
+    return text;
+}
+
+Change company(CF field, const char16_t* value) {
+    return [=](CompanyRecord& c, ProgramRecord&) {
+        c.setText(field, QStringView(value));
+    };
+}
+Change program(PF field, const char16_t* value, int entry = 0) {
+    return [=](CompanyRecord&, ProgramRecord& p) {
+        p.setText(field, QStringView(value), entry);
+    };
+}
+Change flag(PF field, int entry, int value) {
+    return [=](CompanyRecord&, ProgramRecord& p) {
+        p.setNumber(field, value, entry);
+    };
+}
+Change both(Change a, Change b) {
+    return [=](CompanyRecord& c, ProgramRecord& p) {
+        a(c, p);
+        b(c, p);
+    };
+}
+
+// One value and what the check must say about it; an empty element: nothing but notes.
+struct Case {
+    const char* name;
+    Change change;
+    Severity severity;
+    const char* element;
+    const char* says;
+};
+
+const Case kCases[] = {
+    // Well-formedness.
+    {"ampersand", company(CF::CompanyName, u"Smith & Sons"), Severity::Error, "Company_Name",
+     "\"Smith &amp; Sons\""},
+    {"escaped ampersand", company(CF::CompanyName, u"Smith &amp; Sons"), Severity::Note, "", ""},
+    {"character reference", program(PF::CharDesc80, u"(c) &#169; and &#xA9; 2008"), Severity::Note,
+     "", ""},
+    {"ampersand without a name", program(PF::Keywords, u"notes, &;, tidy"), Severity::Error,
+     "Keywords", "&amp;"},
+    {"unknown entity", program(PF::CharDesc250, u"Tidy&nbsp;Notes"), Severity::Error,
+     "Char_Desc_250", "\"&nbsp;\" is not a reference XML knows"},
+    {"html tag", program(PF::CharDesc80, u"A <b>bold note keeper"), Severity::Error, "Char_Desc_80",
+     "the tag \"<b>\""},
+    {"balanced html tags", program(PF::CharDesc250, u"A <b>bold</b> note keeper"), Severity::Error,
+     "Char_Desc_250", "the tag \"<b>\""},
+    {"less than", program(PF::SystemRequirements, u"RAM < 64 MB"), Severity::Error,
+     "Program_System_Requirements", "&lt;"},
+    {"greater than", program(PF::SystemRequirements, u"CPU > 750MHz"), Severity::Error,
+     "Program_System_Requirements", "&gt;"},
+    {"control character", program(PF::Keywords, u"notes\x01tidy"), Severity::Error, "Keywords",
+     "U+0001"},
+    {"second language", both(flag(PF::DescriptionActive, 1, 1), program(PF::CharDesc45, u"<i>", 1)),
+     Severity::Error, "Char_Desc_45", "<i>"},
+    {"inactive language is not written", program(PF::CharDesc45, u"<i>", 1), Severity::Note, "",
+     ""},
+    {"extension text", both(flag(PF::ASPActivated, 0, 1), program(PF::ASPMemberNumber, u"A&B")),
+     Severity::Error, "ASP_Member_Number", "&amp;"},
+    {"extension not active", program(PF::ASPMemberNumber, u"A&B"), Severity::Note, "", ""},
+    // Published rules.
+    {"e-mail without @", company(CF::AuthorEmail, u"anna.smith.example"), Severity::Warning,
+     "Author_Email", "e-mail address"},
+    {"e-mail too short", company(CF::SupportEmail, u"a@b.cd"), Severity::Warning, "Support_Email",
+     "e-mail address"},
+    {"phone in words", company(CF::SalesPhone, u"call us"), Severity::Warning, "Sales_Phone",
+     "phone number"},
+    {"version with a blank", program(PF::ProgramVersion, u"2.1 beta"), Severity::Warning,
+     "Program_Version", "letters, digits and ._- only"},
+    {"company name with a tab", company(CF::CompanyName, u"Smith\tSoftware"), Severity::Warning,
+     "Company_Name", "without < and tabs"},
+    {"screenshot not an image", program(PF::ApplicationScreenshotURL, u"http://s.example/shot.bmp"),
+     Severity::Warning, "Application_Screenshot_URL", ".gif, .jpg or .png"},
+    {"screenshot over https", program(PF::ApplicationScreenshotURL, u"https://s.example/shot.png"),
+     Severity::Warning, "Application_Screenshot_URL", "http://"},
+    {"screenshot in capitals", program(PF::ApplicationIconURL, u"http://s.example/ICON.GIF"),
+     Severity::Warning, "Application_Icon_URL", "lower-case"},
+    {"order page over https", program(PF::ApplicationOrderURL, u"https://s.example/buy"),
+     Severity::Note, "", ""},
+    {"company site over https", company(CF::CompanyWebSiteURL, u"https://www.smith.example"),
+     Severity::Warning, "Company_WebSite_URL", "http://"},
+    {"download is a web page", program(PF::PrimaryDownloadURL, u"http://s.example/download/"),
+     Severity::Warning, "Primary_Download_URL", "not a web page"},
+    {"download over ftp", program(PF::SecondaryDownloadURL, u"ftp://s.example/tidy.exe"),
+     Severity::Note, "", ""},
+    {"pad address not xml", program(PF::ApplicationXMLFileURL, u"http://s.example/pad.txt"),
+     Severity::Warning, "Application_XML_File_URL", ".xml"},
+    {"price with a comma", program(PF::CostDollars, u"19,95"), Severity::Warning,
+     "Program_Cost_Dollars", "decimals"},
+    {"month without zero", program(PF::ReleaseMonth, u"7"), Severity::Warning,
+     "Program_Release_Month", "two digits from 01 to 12"},
+    {"line break in a one-line text", program(PF::CharDesc450, u"Tidy.\r\nNotes."),
+     Severity::Warning, "Char_Desc_450", "one line"},
+    {"escaped text is checked as read", company(CF::CompanyName, u"&#65;"), Severity::Warning,
+     "Company_Name", "2 to 40"},
+    // Sizes.
+    {"kilobytes disagree", program(PF::FileSizeK, u"1235"), Severity::Warning, "File_Size_K",
+     "that is 1206 KB"},
+    {"megabytes disagree", program(PF::FileSizeMB, u"1.23"), Severity::Warning, "File_Size_MB",
+     "that is 1.18 MB"},
+    {"kilobytes rounded down", program(PF::FileSizeK, u"1205"), Severity::Note, "", ""},
+    {"megabytes rounded down", program(PF::FileSizeMB, u"1.17"), Severity::Note, "", ""},
+    // Dates and expiry.
+    {"no such release date", program(PF::ReleaseMonth, u"02"), Severity::Warning,
+     "Program_Release_Day", "02/30/2008"},
+    {"expiry of no kind", flag(PF::HasExpireInfo, 0, 1), Severity::Warning, "Has_Expire_Info",
+     "neither Days, Uses"},
+    {"expiry without count", both(flag(PF::HasExpireInfo, 0, 1), flag(PF::ExpireBasedOn, 0, 1)),
+     Severity::Warning, "Expire_Count", "number of days"},
+    {"expiry without date", both(flag(PF::HasExpireInfo, 0, 1), flag(PF::ExpireBasedOn, 3, 1)),
+     Severity::Warning, "Expire_Month", "not all chosen"},
+    {"expiry on no such date",
+     both(both(flag(PF::HasExpireInfo, 0, 1), flag(PF::ExpireBasedOn, 3, 1)),
+          both(program(PF::ExpireMonth, u"04"),
+               both(program(PF::ExpireDay, u"31"), program(PF::ExpireYear, u"2010")))),
+     Severity::Warning, "Expire_Day", "04/31/2010"},
+    {"character set gap", program(PF::ProgramName, u"Tidy\x81Notes"), Severity::Warning,
+     "Program_Name", "0x81"},
+    // Lists of 1.15 that the current rules changed.
+    {"system dropped since 1.15", flag(PF::OSSupported, 1, 1), Severity::Note, "Program_OS_Support",
+     "\"Win95\" is a value of the PAD 1.15 list"},
+    {"category spelt as in 1.15", program(PF::SpecificCategory, u"Developement Tools"),
+     Severity::Note, "Program_Specific_Category", "Developement Tools"},
+    {"category of neither list", program(PF::SpecificCategory, u"Gadgets"), Severity::Warning,
+     "Program_Specific_Category", "in neither"},
+    {"country of the 1.15 list", company(CF::Country, u"St. Helena"), Severity::Note, "Country",
+     "St. Helena"},
+    {"expiry on a date",
+     both(flag(PF::HasExpireInfo, 0, 1),
+          both(flag(PF::ExpireBasedOn, 3, 1),
+               both(program(PF::ExpireMonth, u"12"),
+                    both(program(PF::ExpireDay, u"31"), program(PF::ExpireYear, u"2010"))))),
+     Severity::Note, "Expire_Based_On", "\"Date\""},
+};
+
+} // namespace
+
+TEST(PadCheck, CleanRecordHasOnlyTheCategoryNote) {
+    const auto findings = checkPad(cleanCompany(), cleanProgram());
+    ASSERT_EQ(findings.size(), 1u) << describe(findings).toStdString();
+    EXPECT_EQ(findings[0].severity, Severity::Note);
+    EXPECT_EQ(findings[0].element, QStringLiteral("Program_Categories"));
+}
+
+TEST(PadCheck, EachCaseGivesItsFindingAndNoOther) {
+    for (const Case& c : kCases) {
+        SCOPED_TRACE(c.name);
+        CompanyRecord company = cleanCompany();
+        ProgramRecord program = cleanProgram();
+        c.change(company, program);
+        const auto all = checkPad(company, program);
+        const auto problems = notNotes(all);
+        if (c.severity != Severity::Note) {
+            ASSERT_EQ(problems.size(), 1u) << describe(all).toStdString();
+            EXPECT_EQ(problems[0].severity, c.severity);
+            EXPECT_EQ(problems[0].element, QLatin1String(c.element));
+            EXPECT_TRUE(problems[0].message.contains(QString::fromUtf8(c.says)) ||
+                        problems[0].value.contains(QString::fromUtf8(c.says)))
+                << problems[0].message.toStdString();
+            continue;
+        }
+        EXPECT_TRUE(problems.empty()) << describe(all).toStdString();
+        if (*c.element == 0)
+            continue;
+        const auto note = std::find_if(all.begin(), all.end(), [&](const PadFinding& f) {
+            return f.element == QLatin1String(c.element);
+        });
+        ASSERT_NE(note, all.end()) << describe(all).toStdString();
+        EXPECT_TRUE(note->message.contains(QString::fromUtf8(c.says)) ||
+                    note->value.contains(QString::fromUtf8(c.says)))
+            << note->message.toStdString();
+    }
+}
+
+// The check's errors are exactly the documents an XML parser refuses; a ">" and a balanced
+// tag aside, which a parser takes but which no PAD reader takes as text.
+TEST(PadCheck, ErrorsAgreeWithAnXmlParser) {
+    for (const Case& c : kCases) {
+        SCOPED_TRACE(c.name);
+        CompanyRecord company = cleanCompany();
+        ProgramRecord program = cleanProgram();
+        c.change(company, program);
+        if (QByteArray(c.name) == "greater than" || QByteArray(c.name) == "balanced html tags")
+            continue;
+        QXmlStreamReader reader(CreatePADText(company, program));
+        while (!reader.atEnd())
+            reader.readNext();
+        EXPECT_EQ(reader.hasError(), hasErrors(checkPad(company, program)))
+            << reader.errorString().toStdString();
+    }
+}
+
+TEST(PadCheck, EveryRequiredFieldLeftEmptyIsNamed) {
+    const CompanyRecord company = cleanCompany();
+    const ProgramRecord program = cleanProgram();
+    QStringList checked;
+    for (const auto& v : padWrittenValues(company, program)) {
+        const PadFieldRule* rule = padFieldRule(v.element);
+        if (!rule || !rule->required)
+            continue;
+        CompanyRecord c = company;
+        ProgramRecord p = program;
+        FixedRecord& record = v.side == PadSide::Company ? static_cast<FixedRecord&>(c) : p;
+        const FieldSpec& spec = record.layout().fields[static_cast<std::size_t>(v.field)];
+        if (spec.isText()) {
+            record.setText(v.field, QString(), v.entry);
+        } else if (spec.count > 1) { // the system and language lists
+            for (int i = 0; i < spec.count; ++i)
+                record.setNumber(v.field, 0, i);
+        } else {
+            continue; // Has_Expire_Info is always Y or N
+        }
+        SCOPED_TRACE(v.element.toStdString());
+        const auto problems = notNotes(checkPad(c, p));
+        const bool named = std::any_of(problems.begin(), problems.end(), [&](const auto& f) {
+            return f.element == v.element && f.message.contains(QStringLiteral("required")) &&
+                   f.label == v.label;
+        });
+        EXPECT_TRUE(named) << describe(problems).toStdString();
+        checked << v.element;
+    }
+    // Every required element but the fixed version, the Y/N flag and the one 1.15 lacks.
+    const QStringList unchecked = {QStringLiteral("MASTER_PAD_VERSION"),
+                                   QStringLiteral("Has_Expire_Info"),
+                                   QStringLiteral("Program_Category_Class")};
+    for (const auto& rule : padFieldRules())
+        if (rule.required && !unchecked.contains(rule.element)) {
+            EXPECT_TRUE(checked.contains(rule.element)) << rule.element.toStdString();
+        }
+}
+
+TEST(PadCheck, FindingsCarryTheFieldAndACutValue) {
+    CompanyRecord company = cleanCompany();
+    ProgramRecord program = cleanProgram();
+    program.setNumber(PF::DescriptionActive, 1, 3);
+    program.setText(PF::CharDesc2000,
+                    QString(QString(300, u'x') + QStringLiteral("\r\n& ") + QString(300, u'y')), 3);
+    const auto findings = checkPad(company, program);
+    ASSERT_FALSE(findings.empty());
+    const PadFinding& f = findings.front();
+    EXPECT_EQ(f.severity, Severity::Error);
+    EXPECT_EQ(f.label, QStringLiteral("2000 Char:"));
+    EXPECT_EQ(f.place, QStringLiteral("Descriptions, German"));
+    EXPECT_EQ(f.side, PadSide::Program);
+    EXPECT_EQ(f.field, static_cast<int>(PF::CharDesc2000));
+    EXPECT_EQ(f.entry, 3);
+    // Around the "&", on one line, cut at both ends.
+    EXPECT_TRUE(f.value.contains(QStringLiteral("x & y"))) << f.value.toStdString();
+    EXPECT_TRUE(f.value.startsWith(QLatin1String("...")));
+    EXPECT_TRUE(f.value.endsWith(QLatin1String("...")));
+    EXPECT_FALSE(f.value.contains(u'\n'));
+    EXPECT_LE(f.value.size(), 66);
+}
+
+// Checking writes nothing and changes no byte of what the writers produce.
+TEST(PadCheck, ChangesNothing) {
+    for (const auto& [company, program] :
+         {std::pair{cleanCompany(), cleanProgram()}, std::pair{fullCompany(), fullProgram()}}) {
+        const QString pad = CreatePADText(company, program);
+        const QString web = CreateWebInfo(company, program, QStringLiteral("http://asp.example"));
+        const QString report =
+            verificationPage(company, program, QStringLiteral("http://asp.example"));
+        const QByteArray companyBytes = company.bytes(), programBytes = program.bytes();
+        checkPad(company, program);
+        EXPECT_EQ(CreatePADText(company, program), pad);
+        EXPECT_EQ(CreateWebInfo(company, program, QStringLiteral("http://asp.example")), web);
+        EXPECT_EQ(verificationPage(company, program, QStringLiteral("http://asp.example")), report);
+        EXPECT_EQ(company.bytes(), companyBytes);
+        EXPECT_EQ(program.bytes(), programBytes);
+    }
+}

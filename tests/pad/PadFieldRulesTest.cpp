@@ -1,0 +1,48 @@
+#include "pad/PadFieldRules.h"
+
+#include <QSet>
+#include <gtest/gtest.h>
+
+using namespace brevaro;
+
+// The built-in table is the whole TSV: one valid rule per element.
+TEST(PadFieldRules, TableIsComplete) {
+    const auto& rules = padFieldRules();
+    EXPECT_EQ(rules.size(), 68u);
+    QSet<QString> elements;
+    for (const auto& rule : rules) {
+        EXPECT_TRUE(rule.regex.isValid()) << rule.element.toStdString();
+        EXPECT_TRUE(rule.path.endsWith(u'/' + rule.element)) << rule.path.toStdString();
+        elements.insert(rule.element);
+    }
+    EXPECT_EQ(elements.size(), static_cast<qsizetype>(rules.size()));
+    ASSERT_NE(padFieldRule(u"Program_Specific_Category"), nullptr);
+    EXPECT_TRUE(padFieldRule(u"Program_Specific_Category")->required);
+    EXPECT_FALSE(padFieldRule(u"Address_1")->required);
+    EXPECT_EQ(padFieldRule(u"Program_Categories"), nullptr);
+}
+
+// "\Z" as the published checks read it: the end, or before one final line break.
+TEST(PadFieldRules, EndOfTextAsPublished) {
+    const PadFieldRule& version = *padFieldRule(u"Program_Version");
+    EXPECT_TRUE(version.accepts(QStringLiteral("2.1.0")));
+    EXPECT_TRUE(version.accepts(QStringLiteral("2.1.0\n")));
+    EXPECT_FALSE(version.accepts(QStringLiteral("2.1.0\n\n")));
+    EXPECT_FALSE(version.accepts(QStringLiteral("2.1.0 beta")));
+    const PadFieldRule& country = *padFieldRule(u"Country");
+    EXPECT_TRUE(country.accepts(QStringLiteral("C\u00f4te d'Ivoire"))); // Latin-1 letters
+    EXPECT_FALSE(country.accepts(QStringLiteral("St. Helena")));
+}
+
+// Every meaning of the table is said as advice, none quoted as it stands.
+TEST(PadFieldRules, EveryMeaningIsPhrasedAsAdvice) {
+    for (const auto& rule : padFieldRules()) {
+        const QString advice = rule.advice();
+        EXPECT_TRUE(advice.startsWith(QLatin1String("should be")) ||
+                    advice.startsWith(QLatin1String("should name")))
+            << rule.element.toStdString() << ": " << advice.toStdString();
+        EXPECT_FALSE(advice.contains(u'\\')) << advice.toStdString();
+    }
+    EXPECT_EQ(padFieldRule(u"Contact_First_Name")->advice(),
+              QStringLiteral("should be a text of 2 to 30 characters, without < and tabs"));
+}

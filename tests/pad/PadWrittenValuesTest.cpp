@@ -1,0 +1,88 @@
+#include "pad/PadWrittenValues.h"
+#include "CleanRecords.h"
+#include "FullRecords.h"
+#include "mainwindow/ControlTable.h"
+#include "pad/PadFieldRules.h"
+#include "pad/PadText.h"
+
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+using namespace brevaro;
+using namespace brevaro::test;
+
+namespace {
+
+using PF = ProgramField;
+
+std::vector<std::pair<CompanyRecord, ProgramRecord>> samples() {
+    ProgramRecord byDate = cleanProgram();
+    byDate.setNumber(PF::HasExpireInfo, 1);
+    byDate.setNumber(PF::ExpireBasedOn, 1, 3);
+    byDate.setText(PF::ExpireMonth, u"12");
+    byDate.setNumber(PF::TPAActivated, 1);
+    byDate.setText(PF::TPAMemberID, u"T-42");
+    return {
+        {cleanCompany(), cleanProgram()}, {cleanCompany(), byDate}, {fullCompany(), fullProgram()}};
+}
+
+} // namespace
+
+// Each value is found in the document exactly where the writer puts it, in the same order.
+TEST(PadWrittenValues, AreWhatTheWriterWrites) {
+    for (const auto& [company, program] : samples()) {
+        const QString pad = CreatePADText(company, program);
+        qsizetype at = 0;
+        for (const auto& v : padWrittenValues(company, program)) {
+            // An empty value has the short form, or the full one in the extension blocks.
+            const QString shortForm = u'<' + v.element + QStringLiteral(" />");
+            const QString written =
+                u'<' + v.element + u'>' + v.value + QStringLiteral("</") + v.element + u'>';
+            const qsizetype shortAt = v.value.isEmpty() ? pad.indexOf(shortForm, at) : -1;
+            const qsizetype found = shortAt >= 0 ? shortAt : pad.indexOf(written, at);
+            ASSERT_GE(found, 0) << written.toStdString();
+            at = found + 1;
+        }
+    }
+}
+
+// Every element of the document that the published rules cover is among the values.
+TEST(PadWrittenValues, CoverEveryRuledElementOfTheDocument) {
+    for (const auto& [company, program] : samples()) {
+        const QString pad = CreatePADText(company, program);
+        QStringList elements;
+        for (const auto& v : padWrittenValues(company, program))
+            elements << v.element;
+        static const QRegularExpression open(QStringLiteral("<([A-Za-z_0-9]+)( />|>)"));
+        for (auto it = open.globalMatch(pad); it.hasNext();) {
+            const QString element = it.next().captured(1);
+            if (padFieldRule(element) && !element.startsWith(QLatin1String("MASTER_PAD"))) {
+                EXPECT_TRUE(elements.contains(element)) << element.toStdString();
+            }
+        }
+    }
+}
+
+// The labels are the window's captions of the same fields, the places its tab captions.
+TEST(PadWrittenValues, LabelsAreTheWindowsCaptions) {
+    ProgramRecord program = fullProgram();
+    const auto values = padWrittenValues(fullCompany(), program);
+    int compared = 0;
+    for (const auto& v : values) {
+        SCOPED_TRACE(v.element.toStdString());
+        EXPECT_FALSE(v.label.isEmpty());
+        EXPECT_TRUE(mainTabCaptions().contains(v.place.section(QStringLiteral(", "), 0, 0)))
+            << v.place.toStdString();
+        if (v.place.startsWith(QLatin1String("Descriptions"))) {
+            EXPECT_EQ(v.place.section(QStringLiteral(", "), 1), languageTabCaptions()[v.entry]);
+        }
+        for (const auto& row : mainWindowControls()) {
+            if (static_cast<int>(row.side) != static_cast<int>(v.side) || row.field != v.field ||
+                row.entry != v.entry || row.caption.isEmpty() || row.index > 0)
+                continue;
+            EXPECT_TRUE(v.label.startsWith(row.caption)) << row.caption.toStdString();
+            ++compared;
+        }
+    }
+    EXPECT_GT(compared, 50);
+}
