@@ -5,10 +5,12 @@
 #include "pad/PadText.h"
 #include "pad/VerificationReport.h"
 #include "pad/WebInfo.h"
+#include "platform/FileHelpers.h"
+#include "platform/FileNames.h"
 #include "records/Win1252.h"
 
+#include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace brevaro::cli {
 
@@ -27,10 +29,10 @@ EditingSession& showProgram(CliContext& ctx, const CliArgs& args) {
 void writeOrPrint(CliContext& ctx, const CliArgs& args, const QByteArray& bytes) {
     if (!args.has(QStringLiteral("-o")))
         return ctx.printBytes(bytes);
-    QSaveFile file(args.value(QStringLiteral("-o")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw CliError{
-            2, QStringLiteral("%1 cannot be written: %2").arg(file.fileName(), file.errorString())};
+    QString error;
+    if (!writeFileAtomically(args.value(QStringLiteral("-o")), bytes, &error))
+        throw CliError{2, QStringLiteral("%1 cannot be written: %2")
+                              .arg(args.value(QStringLiteral("-o")), error)};
 }
 
 const QString kCrLf = QStringLiteral("\r\n");
@@ -45,9 +47,23 @@ int padCommand(CliContext& ctx, const QStringList& words) {
         ctx.printBytes(toWin1252(QString(CreatePADText(s.company(), s.program()) + kCrLf)));
         return 0;
     }
+    // The companion goes beside the PAD file, so the folder must be a real one: a bare file
+    // name is in the current folder.
+    const QFileInfo target(args.value(QStringLiteral("-o")));
+    const QString path = QDir::toNativeSeparators(target.absoluteFilePath());
+    if (!target.absoluteDir().exists())
+        throw CliError{2, QStringLiteral("the folder %1 does not exist")
+                              .arg(QDir::toNativeSeparators(target.absolutePath()))};
+    if (target.isDir())
+        throw CliError{2, QStringLiteral("%1 is a folder; give a file name").arg(path)};
+    if (GetFileBaseName(path, QDir::separator()).isEmpty())
+        throw CliError{
+            2, QStringLiteral("give the PAD file a name with an extension, such as "
+                              "%1.xml, so that its web page can be named after it")
+                   .arg(target.fileName().isEmpty() ? QStringLiteral("pad") : target.fileName())};
     QString error;
-    if (!writePadFiles(s, args.value(QStringLiteral("-o")), &error))
-        throw CliError{2, error};
+    if (!writePadFiles(s, path, &error))
+        throw CliError{2, error.split(u'\n', Qt::SkipEmptyParts).join(QStringLiteral("; "))};
     return 0;
 }
 
@@ -76,17 +92,29 @@ int importCommand(CliContext& ctx, const QStringList& words) {
     for (const QString& path : args.positional())
         if (!QFileInfo(path).isFile())
             throw CliError{2, QStringLiteral("there is no file %1").arg(path)};
-    for (const QString& path : args.positional()) {
-        EditingSession& s = ctx.session();
-        // Each file goes into a window as it is freshly started: company 1 and its first
-        // program shown.
-        if (s.CompanyCount > 0)
-            ctx.select(1, s.screen().at(u"cboProgramName").items.isEmpty() ? 0 : 1);
-        if (!importPadFile(s, path))
-            throw CliError{
-                2, QStringLiteral("%1 is not a PAD file: it must start with <?xml").arg(path)};
-        ctx.failOnMessages();
-        ctx.print(QStringLiteral("%1\t%2\n").arg(s.CurrentCompanyNo).arg(s.CurrentProgramNo));
+    const QStringList files = args.positional();
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        try {
+            EditingSession& s = ctx.session();
+            // Each file goes into a window as it is freshly started: company 1 and its first
+            // program shown.
+            if (s.CompanyCount > 0)
+                ctx.select(1, s.screen().at(u"cboProgramName").items.isEmpty() ? 0 : 1);
+            if (!importPadFile(s, files[i]))
+                throw CliError{
+                    2,
+                    QStringLiteral("%1 is not a PAD file: it must start with <?xml").arg(files[i])};
+            ctx.failOnMessages();
+            ctx.print(QStringLiteral("%1\t%2\n").arg(s.CurrentCompanyNo).arg(s.CurrentProgramNo));
+        } catch (CliError& e) {
+            // Says which files are in and which are not, so a rerun can leave the first out.
+            if (files.size() > 1)
+                e.message += QStringLiteral("; imported: %1; not imported: %2")
+                                 .arg(i > 0 ? files.mid(0, i).join(QStringLiteral(", "))
+                                            : QStringLiteral("none"),
+                                      files.mid(i).join(QStringLiteral(", ")));
+            throw;
+        }
     }
     return 0;
 }

@@ -1,8 +1,10 @@
 #include "store/RecordFile.h"
 
+#include "platform/FileHelpers.h"
+
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace brevaro {
 
@@ -12,6 +14,22 @@ RecordFile::RecordFile(QString path, QByteArray emptyRecord)
 
 bool RecordFile::exists() const {
     return QFileInfo(m_path).isFile();
+}
+
+QString RecordFile::damage() const {
+    const QFileInfo info(m_path);
+    if (!info.exists())
+        return QString();
+    const QString shown = QDir::toNativeSeparators(m_path);
+    if (!info.isFile())
+        return QStringLiteral("%1 is not a file").arg(shown);
+    if (info.size() > kMaxFileBytes)
+        return QStringLiteral("%1 is %2 MB, far larger than any record file: it is damaged")
+            .arg(shown)
+            .arg(info.size() / (1024 * 1024));
+    if (info.size() % recordLength() != 0)
+        return QStringLiteral("%1 is damaged: it ends in the middle of a record").arg(shown);
+    return QString();
 }
 
 int RecordFile::countFor(qint64 fileLength, int recordLength) {
@@ -61,15 +79,30 @@ std::vector<QByteArray> RecordFile::readSlices(int offset, int length) const {
     return slices;
 }
 
-std::vector<QByteArray> RecordFile::readAll() const {
+std::optional<std::vector<QByteArray>> RecordFile::readAll() {
+    const auto contents = readWhole();
+    if (!contents)
+        return std::nullopt;
     std::vector<QByteArray> records;
-    QFile file(m_path);
-    if (!file.open(QIODevice::ReadOnly))
-        return records;
-    const QByteArray contents = normalised(file.readAll());
-    for (qsizetype at = 0; at < contents.size(); at += recordLength())
-        records.push_back(contents.mid(at, recordLength()));
+    for (qsizetype at = 0; at < contents->size(); at += recordLength())
+        records.push_back(contents->mid(at, recordLength()));
     return records;
+}
+
+// The whole file, normalised; empty for a missing file, nothing for one that cannot be read
+// or is far too large to be a record file.
+std::optional<QByteArray> RecordFile::readWhole() {
+    const QFileInfo info(m_path);
+    if (!info.exists())
+        return QByteArray();
+    if (info.size() > kMaxFileBytes) {
+        m_error = damage();
+        return std::nullopt;
+    }
+    QByteArray raw;
+    if (!readRegularFile(m_path, kMaxFileBytes, &raw, &m_error))
+        return std::nullopt;
+    return normalised(raw);
 }
 
 // The file's bytes cut or completed to exactly count() whole records.
@@ -83,36 +116,31 @@ QByteArray RecordFile::normalised(const QByteArray& raw) const {
 
 bool RecordFile::write(int n, const QByteArray& record) {
     Q_ASSERT(record.size() == recordLength());
-    QByteArray contents;
-    QFile file(m_path);
-    if (file.exists()) {
-        if (!file.open(QIODevice::ReadOnly)) {
-            m_error = file.errorString();
-            return false;
-        }
-        contents = normalised(file.readAll());
-        file.close();
-    }
-    const int count = static_cast<int>(contents.size() / recordLength());
+    auto contents = readWhole();
+    if (!contents)
+        return false;
+    const int count = static_cast<int>(contents->size() / recordLength());
     if (n < 1 || n > count + 1) {
         m_error = QStringLiteral("record %1 is outside the file").arg(n);
         return false;
     }
     if (n == count + 1)
-        contents += record;
+        *contents += record;
     else
-        contents.replace(qsizetype(n - 1) * recordLength(), recordLength(), record);
-    return commit(contents);
+        contents->replace(qsizetype(n - 1) * recordLength(), recordLength(), record);
+    return commit(*contents);
 }
 
 bool RecordFile::remove(int n) {
-    std::vector<QByteArray> records = readAll();
-    if (n < 1 || n > static_cast<int>(records.size())) {
+    auto records = readAll();
+    if (!records)
+        return false;
+    if (n < 1 || n > static_cast<int>(records->size())) {
         m_error = QStringLiteral("record %1 is outside the file").arg(n);
         return false;
     }
-    records.erase(records.begin() + (n - 1));
-    return writeAll(records);
+    records->erase(records->begin() + (n - 1));
+    return writeAll(*records);
 }
 
 bool RecordFile::writeAll(const std::vector<QByteArray>& records) {
@@ -126,12 +154,8 @@ bool RecordFile::writeAll(const std::vector<QByteArray>& records) {
 }
 
 bool RecordFile::commit(const QByteArray& contents) {
-    QSaveFile out(m_path);
-    if (!out.open(QIODevice::WriteOnly) || out.write(contents) != contents.size() ||
-        !out.commit()) {
-        m_error = out.errorString();
+    if (!writeFileAtomically(m_path, contents, &m_error))
         return false;
-    }
     m_error.clear();
     return true;
 }

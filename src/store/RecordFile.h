@@ -10,7 +10,8 @@ namespace brevaro {
 // A file of fixed-length records without header, numbered from 1. Every change writes a
 // whole new file beside the old one and renames it over it, so a crash leaves the old or the
 // new file, never a torn record. A damaged file (a length that is not a multiple of the
-// record length) is read as far as it goes; a partial last record reads as blanks and zeros.
+// record length) is read as far as it goes; a partial last record reads as blanks and zeros,
+// and damage() says what is wrong. A file far larger than any real one is not rewritten.
 class RecordFile {
 public:
     RecordFile(QString path, QByteArray emptyRecord);
@@ -18,6 +19,11 @@ public:
     const QString& path() const { return m_path; }
     int recordLength() const { return static_cast<int>(m_empty.size()); }
     bool exists() const;
+
+    // No record file of real use comes near this size (10,000 companies take 8 MB).
+    static constexpr qint64 kMaxFileBytes = qint64(256) * 1024 * 1024;
+    // What is wrong with the file in plain words; empty when nothing is.
+    QString damage() const;
 
     // Number of records: length / record length rounded to the nearest whole number, a half
     // to the even neighbour; 0 for a missing file.
@@ -28,7 +34,8 @@ public:
     std::optional<QByteArray> read(int n) const;
     // From every record, the bytes at [offset, offset + length): reads only those bytes.
     std::vector<QByteArray> readSlices(int offset, int length) const;
-    std::vector<QByteArray> readAll() const;
+    // Every record; nothing (and errorString()) when the file cannot be read whole.
+    std::optional<std::vector<QByteArray>> readAll();
 
     // Writes record n in place; n = count() + 1 appends.
     bool write(int n, const QByteArray& record);
@@ -42,6 +49,7 @@ public:
 
 private:
     QByteArray normalised(const QByteArray& raw) const;
+    std::optional<QByteArray> readWhole();
     bool commit(const QByteArray& contents);
 
     QString m_path;

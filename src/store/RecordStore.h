@@ -3,6 +3,7 @@
 #include "records/CompanyRecord.h"
 #include "records/ProgramRecord.h"
 #include "store/AppHome.h"
+#include "store/DeletionIntent.h"
 #include "store/RecordFile.h"
 
 #include <QStringList>
@@ -38,14 +39,32 @@ public:
     // Removes company n and its program file, renumbering the companies after it.
     bool deleteCompany(int n);
     // Completes a company deletion that a crash interrupted; true when there was none left.
+    // An intent file that does not fit the files is refused and nothing is changed.
     bool completeInterruptedDeletion();
+    // Records the intent and runs its phases up to lastPhase only, leaving the rest to the
+    // next start as a crash would.
+    bool runDeletionPhases(const DeletionIntent& intent, int lastPhase);
 
     const QString& errorString() const { return m_error; }
 
+    // What is wrong with the company file and the program files of its companies, one
+    // plain line each; empty when nothing is.
+    QStringList damage() const;
+    // Clears what a killed writer leaves behind: temporary files of unfinished saves, and
+    // program files that belong to no company (set aside as N.dta.orphaned, so that a new
+    // company never takes over another's programs). Call it holding the home lock, after
+    // completeInterruptedDeletion. Returns what was set aside, one plain line each.
+    QStringList clearCrashLeftovers();
+
 private:
-    bool runDeletion(QStringList steps, int phase);
-    bool runDeletionStep(const QString& step);
-    bool saveIntent(const QStringList& steps, int phase);
+    std::vector<int> companyIds() const;
+    QString checkIntentAgainstFiles(const DeletionIntent& intent) const;
+    bool runDeletion(DeletionIntent intent, int lastPhase);
+    bool saveIntent(const DeletionIntent& intent);
+    bool compactCompanies(const DeletionIntent& intent);
+    bool finishMove(const DeletionIntent::Move& m);
+    QString setAsidePath(int fileNumber, bool doomed) const;
+    bool setAside(int fileNumber, bool doomed);
 
     AppHome m_home;
     QString m_error;
