@@ -56,11 +56,20 @@ void CliContext::lockForWriting() {
     for (const QString& line : m_store.clearCrashLeftovers())
         warn(line);
     warnAboutDamage();
+    // From here on the command's changes are gathered and written together by finish().
+    m_store.beginBatch();
+}
+
+void CliContext::finish() {
+    if (!m_store.commitBatch())
+        throw CliError{2,
+                       QStringLiteral("the changes could not be saved: ") + m_store.errorString()};
 }
 
 namespace {
 
-// Changes when a writer replaces the company file; a deletion always shortens it.
+// Changes when a writer replaces the company file (a deletion always shortens it), and while
+// a deletion or a save of several files is under way.
 struct CompanyFileStamp {
     bool intent = false;
     qint64 size = -1;
@@ -70,8 +79,9 @@ struct CompanyFileStamp {
 
 CompanyFileStamp stampOf(const AppHome& home) {
     const QFileInfo info(home.companyFile());
-    return {QFileInfo::exists(home.deletionIntentFile()), info.exists() ? info.size() : -1,
-            info.lastModified()};
+    return {QFileInfo::exists(home.deletionIntentFile()) ||
+                QFileInfo::exists(home.saveIntentFile()),
+            info.exists() ? info.size() : -1, info.lastModified()};
 }
 
 constexpr int kWaitStepMs = 20;
@@ -81,7 +91,10 @@ constexpr int kWaitLimitMs = 10'000;
 
 // A deletion that another writer runs is waited for; one that nobody runs is completed.
 void CliContext::waitForDeletion() {
-    for (int waited = 0; QFile::exists(home().deletionIntentFile()); waited += kWaitStepMs) {
+    const auto pending = [this] {
+        return QFile::exists(home().deletionIntentFile()) || QFile::exists(home().saveIntentFile());
+    };
+    for (int waited = 0; pending(); waited += kWaitStepMs) {
         if (m_lock.isLocked())
             return;
         QString message;

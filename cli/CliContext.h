@@ -23,6 +23,8 @@ public:
     // Takes the home lock and completes an interrupted deletion; every command that writes
     // calls it before touching a file.
     void lockForWriting();
+    // Writes the changes the command gathered, all of them or none.
+    void finish();
     // Checks the home before anything is read: a deletion that another writer is running is
     // waited for, an interrupted one completed (taking the lock only then).
     void prepareForReading();

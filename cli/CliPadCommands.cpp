@@ -92,7 +92,10 @@ int importCommand(CliContext& ctx, const QStringList& words) {
     for (const QString& path : args.positional())
         if (!QFileInfo(path).isFile())
             throw CliError{2, QStringLiteral("there is no file %1").arg(path)};
+    // Every file goes in one batch, so each record file is written once, at the end.
     const QStringList files = args.positional();
+    QString printed;
+    qsizetype done = 0;
     for (qsizetype i = 0; i < files.size(); ++i) {
         try {
             EditingSession& s = ctx.session();
@@ -100,22 +103,31 @@ int importCommand(CliContext& ctx, const QStringList& words) {
             // program shown.
             if (s.CompanyCount > 0)
                 ctx.select(1, s.screen().at(u"cboProgramName").items.isEmpty() ? 0 : 1);
+            // A refused file changes nothing.
             if (!importPadFile(s, files[i]))
                 throw CliError{
                     2,
                     QStringLiteral("%1 is not a PAD file: it must start with <?xml").arg(files[i])};
+            printed += QStringLiteral("%1\t%2\n").arg(s.CurrentCompanyNo).arg(s.CurrentProgramNo);
+            done = i + 1;
             ctx.failOnMessages();
-            ctx.print(QStringLiteral("%1\t%2\n").arg(s.CurrentCompanyNo).arg(s.CurrentProgramNo));
         } catch (CliError& e) {
-            // Says which files are in and which are not, so a rerun can leave the first out.
+            // What went in is kept, and the message says which files those are, so that a
+            // rerun can leave them out.
+            ctx.finish();
+            ctx.print(printed);
             if (files.size() > 1)
-                e.message += QStringLiteral("; imported: %1; not imported: %2")
-                                 .arg(i > 0 ? files.mid(0, i).join(QStringLiteral(", "))
-                                            : QStringLiteral("none"),
-                                      files.mid(i).join(QStringLiteral(", ")));
+                e.message +=
+                    QStringLiteral("; imported: %1; not imported: %2")
+                        .arg(done > 0 ? files.mid(0, done).join(QStringLiteral(", "))
+                                      : QStringLiteral("none"),
+                             done < files.size() ? files.mid(done).join(QStringLiteral(", "))
+                                                 : QStringLiteral("none"));
             throw;
         }
     }
+    ctx.finish();
+    ctx.print(printed);
     return 0;
 }
 

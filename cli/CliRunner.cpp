@@ -61,7 +61,9 @@ int runCli(const QStringList& args, const QString& executableFolder, QIODevice& 
             continue;
         try {
             CliContext ctx(AppHome::resolve(homeOption, executableFolder), in, out, err);
-            return command.run(ctx, rest);
+            const int status = command.run(ctx, rest);
+            ctx.finish();
+            return status;
         } catch (const CliError& e) {
             return fail(e.status, e.message);
         }

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStorageInfo>
+#include <filesystem>
 
 namespace brevaro {
 
@@ -61,8 +62,16 @@ bool readRegularFile(const QString& path, qint64 maxBytes, QByteArray* out, QStr
         *error = QStringLiteral("%1 cannot be read").arg(shown);
         return false;
     }
-    // The file may grow while it is read.
-    *out = file.read(maxBytes + 1);
+    // Read in pieces (a read of maxBytes would claim that much memory at once); the file may
+    // grow while it is read.
+    out->clear();
+    out->reserve(info.size());
+    while (out->size() <= maxBytes) {
+        const QByteArray piece = file.read(std::min<qint64>(1 << 20, maxBytes + 1 - out->size()));
+        if (piece.isEmpty())
+            break;
+        *out += piece;
+    }
     if (out->size() > maxBytes) {
         out->clear();
         return tooLarge();
@@ -90,6 +99,12 @@ QString plainWriteError(const QFileDevice& file, qint64 bytesWanted) {
         return QStringLiteral("%1 could not be written")
             .arg(QDir::toNativeSeparators(file.fileName()));
     return reason;
+}
+
+bool replaceFile(const QString& from, const QString& to) {
+    std::error_code error;
+    std::filesystem::rename(from.toStdU16String(), to.toStdU16String(), error);
+    return !error;
 }
 
 bool writeFileAtomically(const QString& path, const QByteArray& bytes, QString* error) {

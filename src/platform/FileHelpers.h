@@ -24,6 +24,8 @@ bool readRegularFile(const QString& path, qint64 maxBytes, QByteArray* out, QStr
 // Replaces the file with bytes through a temporary file renamed into place; false with a
 // plain, one-line reason ("the disk is full", ...) in *error.
 bool writeFileAtomically(const QString& path, const QByteArray& bytes, QString* error);
+// Renames from over to, replacing it in one step; false when that cannot be done.
+bool replaceFile(const QString& from, const QString& to);
 // The reason a write to file failed, in plain words.
 QString plainWriteError(const QFileDevice& file, qint64 bytesWanted);
 

@@ -8,15 +8,38 @@
 
 namespace brevaro {
 
-RecordFile::RecordFile(QString path, QByteArray emptyRecord)
+RecordFile::RecordFile(QString path, QByteArray emptyRecord, PendingFiles* pending)
     : m_path(std::move(path))
-    , m_empty(std::move(emptyRecord)) {}
+    , m_empty(std::move(emptyRecord))
+    , m_pending(pending) {}
+
+// Null when the file has no pending change; else its pending bytes (empty when it is to go).
+const QByteArray* RecordFile::pendingBytes() const {
+    static const QByteArray gone;
+    if (!m_pending)
+        return nullptr;
+    const auto it = m_pending->find(m_path);
+    if (it == m_pending->end())
+        return nullptr;
+    return it->second ? &*it->second : &gone;
+}
 
 bool RecordFile::exists() const {
+    if (m_pending && m_pending->count(m_path))
+        return m_pending->at(m_path).has_value();
     return QFileInfo(m_path).isFile();
 }
 
+void RecordFile::removeFile() {
+    if (m_pending)
+        (*m_pending)[m_path] = std::nullopt;
+    else
+        QFile::remove(m_path);
+}
+
 QString RecordFile::damage() const {
+    if (pendingBytes())
+        return QString();
     const QFileInfo info(m_path);
     if (!info.exists())
         return QString();
@@ -43,11 +66,18 @@ int RecordFile::countFor(qint64 fileLength, int recordLength) {
 }
 
 int RecordFile::count() const {
+    if (const QByteArray* bytes = pendingBytes())
+        return countFor(bytes->size(), recordLength());
     const QFileInfo info(m_path);
     return info.isFile() ? countFor(info.size(), recordLength()) : 0;
 }
 
 std::optional<QByteArray> RecordFile::read(int n) const {
+    if (const QByteArray* bytes = pendingBytes()) {
+        if (n < 1 || n > countFor(bytes->size(), recordLength()))
+            return std::nullopt;
+        return bytes->mid(qsizetype(n - 1) * recordLength(), recordLength());
+    }
     QFile file(m_path);
     if (n < 1 || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
@@ -63,6 +93,11 @@ std::optional<QByteArray> RecordFile::read(int n) const {
 
 std::vector<QByteArray> RecordFile::readSlices(int offset, int length) const {
     std::vector<QByteArray> slices;
+    if (const QByteArray* bytes = pendingBytes()) {
+        for (qsizetype at = 0; at < bytes->size(); at += recordLength())
+            slices.push_back(bytes->mid(at + offset, length));
+        return slices;
+    }
     QFile file(m_path);
     if (!file.open(QIODevice::ReadOnly))
         return slices;
@@ -92,6 +127,8 @@ std::optional<std::vector<QByteArray>> RecordFile::readAll() {
 // The whole file, normalised; empty for a missing file, nothing for one that cannot be read
 // or is far too large to be a record file.
 std::optional<QByteArray> RecordFile::readWhole() {
+    if (const QByteArray* bytes = pendingBytes())
+        return *bytes;
     const QFileInfo info(m_path);
     if (!info.exists())
         return QByteArray();
@@ -116,9 +153,20 @@ QByteArray RecordFile::normalised(const QByteArray& raw) const {
 
 bool RecordFile::write(int n, const QByteArray& record) {
     Q_ASSERT(record.size() == recordLength());
-    auto contents = readWhole();
-    if (!contents)
-        return false;
+    std::optional<QByteArray> onDisk;
+    QByteArray* contents = nullptr;
+    if (m_pending && m_pending->count(m_path)) {
+        // Changed in place, so that many writes to one file cost what one does.
+        auto& pending = (*m_pending)[m_path];
+        if (!pending)
+            pending = QByteArray();
+        contents = &*pending;
+    } else {
+        onDisk = readWhole();
+        if (!onDisk)
+            return false;
+        contents = &*onDisk;
+    }
     const int count = static_cast<int>(contents->size() / recordLength());
     if (n < 1 || n > count + 1) {
         m_error = QStringLiteral("record %1 is outside the file").arg(n);
@@ -128,6 +176,10 @@ bool RecordFile::write(int n, const QByteArray& record) {
         *contents += record;
     else
         contents->replace(qsizetype(n - 1) * recordLength(), recordLength(), record);
+    if (!onDisk) {
+        m_error.clear();
+        return true;
+    }
     return commit(*contents);
 }
 
@@ -154,6 +206,11 @@ bool RecordFile::writeAll(const std::vector<QByteArray>& records) {
 }
 
 bool RecordFile::commit(const QByteArray& contents) {
+    if (m_pending) {
+        (*m_pending)[m_path] = contents;
+        m_error.clear();
+        return true;
+    }
     if (!writeFileAtomically(m_path, contents, &m_error))
         return false;
     m_error.clear();

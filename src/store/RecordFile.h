@@ -2,10 +2,15 @@
 
 #include <QByteArray>
 #include <QString>
+#include <map>
 #include <optional>
 #include <vector>
 
 namespace brevaro {
+
+// Whole record files not yet on disk: a path maps to its new bytes, or to nothing when the
+// file is to go. A command gathers its changes here and writes them together.
+using PendingFiles = std::map<QString, std::optional<QByteArray>>;
 
 // A file of fixed-length records without header, numbered from 1. Every change writes a
 // whole new file beside the old one and renames it over it, so a crash leaves the old or the
@@ -14,7 +19,8 @@ namespace brevaro {
 // and damage() says what is wrong. A file far larger than any real one is not rewritten.
 class RecordFile {
 public:
-    RecordFile(QString path, QByteArray emptyRecord);
+    // With pending, changes go there instead of to disk, and reads see them.
+    RecordFile(QString path, QByteArray emptyRecord, PendingFiles* pending = nullptr);
 
     const QString& path() const { return m_path; }
     int recordLength() const { return static_cast<int>(m_empty.size()); }
@@ -44,6 +50,8 @@ public:
     bool remove(int n);
     // Replaces the whole file with these records.
     bool writeAll(const std::vector<QByteArray>& records);
+    // Removes the file.
+    void removeFile();
 
     const QString& errorString() const { return m_error; }
 
@@ -52,8 +60,11 @@ private:
     std::optional<QByteArray> readWhole();
     bool commit(const QByteArray& contents);
 
+    const QByteArray* pendingBytes() const;
+
     QString m_path;
     QByteArray m_empty;
+    PendingFiles* m_pending = nullptr;
     QString m_error;
 };
 

@@ -17,6 +17,7 @@ namespace {
 
 constexpr auto kMovingSuffix = ".moving";
 constexpr auto kDoomedSuffix = ".doomed";
+constexpr auto kPendingSuffix = ".pending";
 
 QStringList trimmedNames(const std::vector<QByteArray>& slices) {
     QStringList names;
@@ -36,11 +37,85 @@ RecordStore::RecordStore(AppHome home)
     : m_home(std::move(home)) {}
 
 RecordFile RecordStore::companyFile() const {
-    return RecordFile(m_home.companyFile(), FixedRecord::emptyBytes(companyLayout()));
+    return RecordFile(m_home.companyFile(), FixedRecord::emptyBytes(companyLayout()),
+                      m_batching ? &m_pending : nullptr);
 }
 
 RecordFile RecordStore::programFile(int companyId) const {
-    return RecordFile(m_home.programFile(companyId), FixedRecord::emptyBytes(programLayout()));
+    return RecordFile(m_home.programFile(companyId), FixedRecord::emptyBytes(programLayout()),
+                      m_batching ? &m_pending : nullptr);
+}
+
+void RecordStore::beginBatch() {
+    m_batching = true;
+}
+
+void RecordStore::discardBatch() {
+    m_pending.clear();
+}
+
+bool RecordStore::commitBatch() {
+    if (m_pending.empty())
+        return true;
+    SaveIntent intent;
+    QStringList pendingFiles;
+    for (const auto& [path, bytes] : m_pending) {
+        const QString name = QFileInfo(path).fileName();
+        if (!bytes) {
+            intent.removed << name;
+            continue;
+        }
+        QString why;
+        if (!writeFileAtomically(path + QLatin1String(kPendingSuffix), *bytes, &why)) {
+            for (const QString& done : pendingFiles)
+                QFile::remove(done);
+            m_error = why;
+            return false;
+        }
+        pendingFiles << path + QLatin1String(kPendingSuffix);
+        intent.written << name;
+    }
+    // From here the new files are complete: the intent makes them the data.
+    QString why;
+    if (!writeFileAtomically(m_home.saveIntentFile(), intent.toBytes(), &why)) {
+        for (const QString& done : pendingFiles)
+            QFile::remove(done);
+        m_error = why;
+        return false;
+    }
+    m_pending.clear();
+    return applySave(intent);
+}
+
+bool RecordStore::applySave(const SaveIntent& intent) {
+    const QDir data(m_home.dataFolder());
+    for (const QString& name : intent.written) {
+        const QString staged = data.filePath(name + QLatin1String(kPendingSuffix));
+        if (QFile::exists(staged) && !replaceFile(staged, data.filePath(name))) {
+            m_error = QStringLiteral("%1 cannot be renamed").arg(QDir::toNativeSeparators(staged));
+            return false;
+        }
+    }
+    for (const QString& name : intent.removed)
+        QFile::remove(data.filePath(name));
+    QFile::remove(m_home.saveIntentFile());
+    return true;
+}
+
+bool RecordStore::completeInterruptedSave() {
+    const QString path = m_home.saveIntentFile();
+    if (!QFileInfo::exists(path))
+        return true;
+    QByteArray bytes;
+    QString why;
+    if (readRegularFile(path, SaveIntent::kMaxBytes, &bytes, &why)) {
+        if (const auto intent = SaveIntent::parse(bytes, &why))
+            return applySave(*intent);
+    }
+    m_error = QStringLiteral("the record of an unfinished save, %1, is damaged (%2); nothing "
+                             "was changed. Move that file away to use the data as it is")
+                  .arg(QDir::toNativeSeparators(path), why);
+    return false;
 }
 
 QString RecordStore::programFileName(int companyId) {
@@ -92,7 +167,7 @@ bool RecordStore::deleteProgram(int companyId, int n) {
         return false;
     }
     if (file.count() == 0)
-        QFile::remove(file.path());
+        file.removeFile();
     return true;
 }
 
@@ -104,6 +179,16 @@ bool RecordStore::deleteProgram(int companyId, int n) {
 //   2 remove   its program file deleted
 //   3 finish   each set-aside file under its new number, its programs restamped
 bool RecordStore::deleteCompany(int n) {
+    // The deletion has its own intent: what is gathered goes first, the deletion unbatched.
+    if (!commitBatch())
+        return false;
+    const bool batching = std::exchange(m_batching, false);
+    const bool ok = deleteCompanyNow(n);
+    m_batching = batching;
+    return ok;
+}
+
+bool RecordStore::deleteCompanyNow(int n) {
     const int count = companyCount();
     if (n < 1 || n > count) {
         m_error = QStringLiteral("there is no company %1").arg(n);
@@ -136,6 +221,15 @@ std::vector<int> RecordStore::companyIds() const {
 }
 
 bool RecordStore::completeInterruptedDeletion() {
+    if (!completeInterruptedSave())
+        return false;
+    const bool batching = std::exchange(m_batching, false);
+    const bool ok = completeDeletionNow();
+    m_batching = batching;
+    return ok;
+}
+
+bool RecordStore::completeDeletionNow() {
     const QString path = m_home.deletionIntentFile();
     if (!QFileInfo::exists(path))
         return true;
@@ -304,13 +398,14 @@ QStringList RecordStore::clearCrashLeftovers() {
     QDir data(m_home.dataFolder());
     // QSaveFile's temporary files: the target's name and six random letters or digits.
     static const QRegularExpression temporary(
-        QStringLiteral("^(company\\.dta|[1-9][0-9]*\\.dta|deletion\\.intent)\\.(?!moving$|doomed$)["
-                       "A-Za-z0-9]{6}$"));
+        QStringLiteral("^((company|[1-9][0-9]*)\\.dta(\\.pending)?|deletion\\.intent|save\\.intent)"
+                       "\\.(?!moving$|doomed$)[A-Za-z0-9]{6}$"));
     static const QRegularExpression programFileName(QStringLiteral("^([1-9][0-9]{0,8})\\.dta$"));
     const std::vector<int> ids = companyIds();
     const QSet<int> owned(ids.begin(), ids.end());
     for (const QString& name : data.entryList(QDir::Files | QDir::Hidden | QDir::System)) {
-        if (temporary.match(name).hasMatch()) {
+        if (temporary.match(name).hasMatch() || (name.endsWith(QLatin1String(kPendingSuffix)) &&
+                                                 !QFileInfo::exists(m_home.saveIntentFile()))) {
             data.remove(name);
             continue;
         }

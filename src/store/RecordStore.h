@@ -5,6 +5,7 @@
 #include "store/AppHome.h"
 #include "store/DeletionIntent.h"
 #include "store/RecordFile.h"
+#include "store/SaveIntent.h"
 
 #include <QStringList>
 
@@ -18,6 +19,16 @@ public:
     explicit RecordStore(AppHome home);
 
     const AppHome& home() const { return m_home; }
+
+    // From here on, changes are gathered in memory (reads see them) until commitBatch writes
+    // them all at once, so that a command changes all its files or none, and writes each
+    // file once. A company deletion first commits what is gathered.
+    void beginBatch();
+    // Puts every gathered change in place through the save intent; false (with nothing
+    // changed, or everything, after the next start) when a file cannot be written.
+    bool commitBatch();
+    // Forgets the gathered changes.
+    void discardBatch();
     RecordFile companyFile() const;
     RecordFile programFile(int companyId) const;
     static QString programFileName(int companyId);
@@ -40,6 +51,7 @@ public:
     bool deleteCompany(int n);
     // Completes a company deletion that a crash interrupted; true when there was none left.
     // An intent file that does not fit the files is refused and nothing is changed.
+    // A save that a crash interrupted is finished first.
     bool completeInterruptedDeletion();
     // Records the intent and runs its phases up to lastPhase only, leaving the rest to the
     // next start as a crash would.
@@ -57,6 +69,10 @@ public:
     QStringList clearCrashLeftovers();
 
 private:
+    bool deleteCompanyNow(int n);
+    bool completeDeletionNow();
+    bool completeInterruptedSave();
+    bool applySave(const SaveIntent& intent);
     std::vector<int> companyIds() const;
     QString checkIntentAgainstFiles(const DeletionIntent& intent) const;
     bool runDeletion(DeletionIntent intent, int lastPhase);
@@ -68,6 +84,8 @@ private:
 
     AppHome m_home;
     QString m_error;
+    bool m_batching = false;
+    mutable PendingFiles m_pending;
 };
 
 } // namespace brevaro

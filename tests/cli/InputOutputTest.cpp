@@ -161,4 +161,22 @@ TEST(CliInput, ImportSaysWhichFilesWereDone) {
     EXPECT_EQ(r.out, QByteArray("1\t1\n"));
     EXPECT_TRUE(r.err.contains(QStringLiteral("imported: ") + good)) << r.err.toStdString();
     EXPECT_TRUE(r.err.contains(QStringLiteral("not imported: ") + bad));
+    EXPECT_EQ(runCliIn(t, words({"list"})).out, QByteArray("1\tAcme\n\t1\tWidget\t\n"));
+}
+
+// A command that changes a company and a program writes both files together: when the second
+// cannot be written, the first is not changed either.
+TEST(CliInput, SetChangesBothFilesOrNeither) {
+    TempHome t;
+    companyWithProgram(t);
+    const QByteArray company = readBytes(t.home().companyFile());
+    // A folder where the new program file would go makes its write fail.
+    QDir().mkpath(t.file(QStringLiteral("data/1.dta.pending")));
+    const CliResult r =
+        runCliIn(t, words({"set", "-c", "1", "-p", "1", "CityTown=Elsewhere", "ProgramVersion=9"}));
+    EXPECT_EQ(r.status, 2);
+    EXPECT_TRUE(r.err.startsWith(QStringLiteral("brevaro-cli: the changes could not be saved")))
+        << r.err.toStdString();
+    EXPECT_EQ(readBytes(t.home().companyFile()), company);
+    EXPECT_FALSE(QFile::exists(t.home().saveIntentFile()));
 }

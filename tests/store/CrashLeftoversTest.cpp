@@ -147,3 +147,55 @@ TEST(HomeLock, StaleLocksAreTakenOverForeignOnesExplained) {
     EXPECT_TRUE(message.contains(QStringLiteral("far-away-host")));
     EXPECT_TRUE(message.contains(t.home().lockFile()));
 }
+
+// A batch changes nothing on disk until it is committed, then every file at once; a crash
+// after the save intent is finished by the next start, one before it leaves the old files.
+TEST(RecordStore, BatchedChangesGoInTogether) {
+    TempHome t;
+    RecordStore store(t.home());
+    addCompany(store, 1, QStringLiteral("A"), 2);
+    const QByteArray companies = readBytes(t.home().companyFile());
+    const QByteArray programs = readBytes(t.home().programFile(1));
+
+    store.beginBatch();
+    addCompany(store, 2, QStringLiteral("B"), 3);
+    ASSERT_TRUE(store.deleteProgram(1, 1));
+    ASSERT_TRUE(store.deleteProgram(1, 1));
+    EXPECT_EQ(store.companyNames(), (QStringList{QStringLiteral("A"), QStringLiteral("B")}));
+    EXPECT_EQ(store.programCount(1), 0);
+    EXPECT_EQ(readBytes(t.home().companyFile()), companies) << "nothing is written yet";
+    EXPECT_EQ(readBytes(t.home().programFile(1)), programs);
+    EXPECT_FALSE(QFile::exists(t.home().programFile(2)));
+    ASSERT_TRUE(store.commitBatch());
+    RecordStore fresh(t.home());
+    EXPECT_EQ(fresh.companyNames(), (QStringList{QStringLiteral("A"), QStringLiteral("B")}));
+    EXPECT_EQ(fresh.programNames(2),
+              (QStringList{QStringLiteral("B1"), QStringLiteral("B2"), QStringLiteral("B3")}));
+    EXPECT_FALSE(QFile::exists(t.home().programFile(1)));
+    EXPECT_EQ(QDir(t.file(QStringLiteral("data"))).entryList(QDir::Files, QDir::Name),
+              (QStringList{QStringLiteral("2.dta"), QStringLiteral("company.dta")}));
+
+    // Killed after the new files and the intent were written: the next start completes.
+    writeBytes(t.file(QStringLiteral("data/company.dta.pending")), companies);
+    writeBytes(t.file(QStringLiteral("data/1.dta.pending")), programs);
+    writeBytes(t.home().saveIntentFile(), "save\nwrite company.dta\nwrite 1.dta\nremove 2.dta\n");
+    ASSERT_TRUE(fresh.completeInterruptedDeletion()) << fresh.errorString().toStdString();
+    EXPECT_EQ(readBytes(t.home().companyFile()), companies);
+    EXPECT_EQ(readBytes(t.home().programFile(1)), programs);
+    EXPECT_EQ(QDir(t.file(QStringLiteral("data"))).entryList(QDir::Files, QDir::Name),
+              (QStringList{QStringLiteral("1.dta"), QStringLiteral("company.dta")}));
+
+    // Killed before the intent: the half-made new file goes, the data stays.
+    writeBytes(t.file(QStringLiteral("data/1.dta.pending")), "half");
+    EXPECT_TRUE(fresh.clearCrashLeftovers().isEmpty());
+    EXPECT_EQ(QDir(t.file(QStringLiteral("data"))).entryList(QDir::Files, QDir::Name),
+              (QStringList{QStringLiteral("1.dta"), QStringLiteral("company.dta")}));
+
+    // An intent naming a file outside the data is refused and changes nothing.
+    for (const char* bad : {"save\nwrite ../x.dta\n", "save\nremove /etc/passwd\n", "write 1.dta\n",
+                            "save\nwrite 1.dta\nwrite 1.dta\n"}) {
+        writeBytes(t.home().saveIntentFile(), bad);
+        EXPECT_FALSE(fresh.completeInterruptedDeletion()) << bad;
+        EXPECT_EQ(readBytes(t.home().programFile(1)), programs);
+    }
+}
