@@ -37,11 +37,16 @@ void CliContext::warn(const QString& text) {
     m_err.write((QStringLiteral("brevaro-cli: warning: ") + escapeControls(text) + u'\n').toUtf8());
 }
 
-void CliContext::warnAboutDamage() {
+void CliContext::warnAboutDamage(int companyId) {
     if (m_warned)
         return;
     m_warned = true;
-    for (const QString& problem : m_store.damage())
+    for (const QString& problem : m_store.damage(companyId))
+        warn(problem);
+}
+
+void CliContext::warnAboutProgramFile(int companyId) {
+    if (const QString problem = m_store.programFile(companyId).damage(); !problem.isEmpty())
         warn(problem);
 }
 
@@ -109,13 +114,13 @@ void CliContext::waitForDeletion() {
     }
 }
 
-void CliContext::prepareForReading() {
+void CliContext::prepareForReading(int companyId) {
     const QFileInfo root(home().root());
     if (root.exists() && !root.isDir())
         throw CliError{2, QStringLiteral("the home %1 is not a folder")
                               .arg(QDir::toNativeSeparators(home().root()))};
     waitForDeletion();
-    warnAboutDamage();
+    warnAboutDamage(companyId);
 }
 
 QByteArray CliContext::readStable(const std::function<QByteArray()>& read) {

@@ -26,8 +26,9 @@ public:
     // Writes the changes the command gathered, all of them or none.
     void finish();
     // Checks the home before anything is read: a deletion that another writer is running is
-    // waited for, an interrupted one completed (taking the lock only then).
-    void prepareForReading();
+    // waited for, an interrupted one completed (taking the lock only then). Damage is reported
+    // for every program file, or, with companyId, for that company's only (none below 0).
+    void prepareForReading(int companyId = 0);
     // Runs read until no writer changed the companies meanwhile, so that a reader never
     // shows half of a company deletion; its output.
     QByteArray readStable(const std::function<QByteArray()>& read);
@@ -50,8 +51,10 @@ public:
     void print(const QString& text) { m_out.write(text.toUtf8()); }
     // A warning line on stderr, not ending the command.
     void warn(const QString& text);
-    // Reports problems of the record files once, as warnings.
-    void warnAboutDamage();
+    // Reports problems of the record files once, as warnings: the company file and the program
+    // files of every company, or of the company with that id only.
+    void warnAboutDamage(int companyId = 0);
+    void warnAboutProgramFile(int companyId);
     void printBytes(const QByteArray& bytes) { m_out.write(bytes); }
 
 private:

@@ -45,12 +45,13 @@ int showCommand(CliContext& ctx, const QStringList& words) {
     const CliArgs args(words, {QStringLiteral("-c"), QStringLiteral("-p")},
                        {QStringLiteral("--json")});
     noPositional(args);
-    ctx.prepareForReading();
+    ctx.prepareForReading(-1);
     ctx.printBytes(ctx.readStable([&] {
         const int c = ctx.company(args.required(QStringLiteral("-c")));
         CompanyRecord company;
         ctx.store().readCompany(c, company);
         const int id = company.number(CompanyField::CompanyID);
+        ctx.warnAboutProgramFile(id);
         QJsonObject object{{QStringLiteral("company"), recordToJson(company)}};
         if (args.has(QStringLiteral("-p")) || ctx.store().programCount(id) > 0) {
             const int p = args.has(QStringLiteral("-p"))

@@ -98,15 +98,32 @@ std::vector<QByteArray> RecordFile::readSlices(int offset, int length) const {
             slices.push_back(bytes->mid(at + offset, length));
         return slices;
     }
+    // Short records are read many at a time into one buffer; long ones slice by slice,
+    // unbuffered, so that only the slices are read.
+    const int perBlock = recordLength() < 16 * 1024 ? (1 << 20) / recordLength() : 1;
     QFile file(m_path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(perBlock > 1 ? QIODevice::ReadOnly
+                                : QIODevice::ReadOnly | QIODevice::Unbuffered))
         return slices;
     const int n = countFor(file.size(), recordLength());
     slices.reserve(static_cast<std::size_t>(n));
+    QByteArray block(perBlock > 1 ? qsizetype(perBlock) * recordLength() : 0, Qt::Uninitialized);
+    qint64 blockBytes = 0;
+    int blockStart = 0;
     for (int i = 0; i < n; ++i) {
         QByteArray slice;
-        if (file.seek(qint64(i) * recordLength() + offset))
+        if (perBlock > 1) {
+            if (i == 0 || i - blockStart >= perBlock) {
+                blockStart = i;
+                blockBytes = std::max<qint64>(0, file.read(block.data(), block.size()));
+            }
+            const qint64 at = qint64(i - blockStart) * recordLength() + offset;
+            if (at < blockBytes)
+                slice =
+                    QByteArray(block.constData() + at, std::min<qint64>(length, blockBytes - at));
+        } else if (file.seek(qint64(i) * recordLength() + offset)) {
             slice = file.read(length);
+        }
         if (slice.size() < length)
             slice += m_empty.mid(offset + slice.size(), length - slice.size());
         slices.push_back(slice);

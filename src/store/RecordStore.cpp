@@ -36,13 +36,22 @@ const FieldSpec& nameField(const RecordLayout& layout) {
 RecordStore::RecordStore(AppHome home)
     : m_home(std::move(home)) {}
 
+// The empty records, made once: a record file is opened for every company in some commands.
+static const QByteArray& emptyCompany() {
+    static const QByteArray bytes = FixedRecord::emptyBytes(companyLayout());
+    return bytes;
+}
+static const QByteArray& emptyProgram() {
+    static const QByteArray bytes = FixedRecord::emptyBytes(programLayout());
+    return bytes;
+}
+
 RecordFile RecordStore::companyFile() const {
-    return RecordFile(m_home.companyFile(), FixedRecord::emptyBytes(companyLayout()),
-                      m_batching ? &m_pending : nullptr);
+    return RecordFile(m_home.companyFile(), emptyCompany(), m_batching ? &m_pending : nullptr);
 }
 
 RecordFile RecordStore::programFile(int companyId) const {
-    return RecordFile(m_home.programFile(companyId), FixedRecord::emptyBytes(programLayout()),
+    return RecordFile(m_home.programFile(companyId), emptyProgram(),
                       m_batching ? &m_pending : nullptr);
 }
 
@@ -382,12 +391,17 @@ bool RecordStore::finishMove(const DeletionIntent::Move& m) {
     return true;
 }
 
-QStringList RecordStore::damage() const {
+QStringList RecordStore::damage(int companyId) const {
     QStringList problems;
     const RecordFile companies = companyFile();
     if (const QString d = companies.damage(); !d.isEmpty())
         problems << d;
-    for (int id : companyIds())
+    std::vector<int> ids;
+    if (companyId > 0)
+        ids.push_back(companyId);
+    else if (companyId == 0)
+        ids = companyIds();
+    for (int id : ids)
         if (const QString d = programFile(id).damage(); !d.isEmpty())
             problems << d;
     return problems;

@@ -59,9 +59,10 @@ public:
 
     const QString& errorString() const { return m_error; }
 
-    // What is wrong with the company file and the program files of its companies, one
-    // plain line each; empty when nothing is.
-    QStringList damage() const;
+    // What is wrong with the company file and the program files of its companies (or only
+    // that of company id when it is above 0, none below 0), one plain line each; empty when
+    // nothing is.
+    QStringList damage(int companyId = 0) const;
     // Clears what a killed writer leaves behind: temporary files of unfinished saves, and
     // program files that belong to no company (set aside as N.dta.orphaned, so that a new
     // company never takes over another's programs). Call it holding the home lock, after
