@@ -61,6 +61,7 @@ void RecordStore::beginBatch() {
 
 void RecordStore::discardBatch() {
     m_pending.clear();
+    m_programNames.clear();
 }
 
 bool RecordStore::commitBatch() {
@@ -161,15 +162,36 @@ bool RecordStore::writeProgram(int companyId, int n, const ProgramRecord& record
     RecordFile file = programFile(companyId);
     const bool ok = file.write(n, record.bytes());
     m_error = file.errorString();
+    // The gathered names follow the write, so that a long import does not decode every
+    // name again for each program.
+    const auto cached = m_programNames.find(companyId);
+    if (cached != m_programNames.end()) {
+        const FieldSpec& f = nameField(programLayout());
+        const QString name = trimBlanks(fromWin1252(record.bytes().mid(f.offset, f.size())));
+        if (ok && n >= 1 && n <= cached->second.size())
+            cached->second[n - 1] = name;
+        else if (ok && n == cached->second.size() + 1)
+            cached->second << name;
+        else
+            m_programNames.erase(cached);
+    }
     return ok;
 }
 
 QStringList RecordStore::programNames(int companyId) const {
+    const auto cached = m_programNames.find(companyId);
+    if (cached != m_programNames.end())
+        return cached->second;
     const FieldSpec& f = nameField(programLayout());
-    return trimmedNames(programFile(companyId).readSlices(f.offset, f.size()));
+    QStringList names = trimmedNames(programFile(companyId).readSlices(f.offset, f.size()));
+    // Only a batch keeps them: then no other writer changes the files.
+    if (m_batching)
+        m_programNames[companyId] = names;
+    return names;
 }
 
 bool RecordStore::deleteProgram(int companyId, int n) {
+    m_programNames.erase(companyId);
     RecordFile file = programFile(companyId);
     if (!file.remove(n)) {
         m_error = file.errorString();
@@ -188,6 +210,7 @@ bool RecordStore::deleteProgram(int companyId, int n) {
 //   2 remove   its program file deleted
 //   3 finish   each set-aside file under its new number, its programs restamped
 bool RecordStore::deleteCompany(int n) {
+    m_programNames.clear();
     // The deletion has its own intent: what is gathered goes first, the deletion unbatched.
     if (!commitBatch())
         return false;
@@ -230,6 +253,7 @@ std::vector<int> RecordStore::companyIds() const {
 }
 
 bool RecordStore::completeInterruptedDeletion() {
+    m_programNames.clear();
     if (!completeInterruptedSave())
         return false;
     const bool batching = std::exchange(m_batching, false);

@@ -87,6 +87,7 @@ private:
     QString m_error;
     bool m_batching = false;
     mutable PendingFiles m_pending;
+    mutable std::map<int, QStringList> m_programNames; // by company id, while batching
 };
 
 } // namespace brevaro
