@@ -1,6 +1,12 @@
 #include "CliContext.h"
 
+#include "platform/StringHelpers.h"
+
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QThread>
 
 namespace brevaro::cli {
 
@@ -19,24 +25,117 @@ int pick(const QStringList& names, const QString& which, const QString& what) {
 
 } // namespace
 
-CliContext::CliContext(AppHome home, QIODevice& in, QIODevice& out)
+CliContext::CliContext(AppHome home, QIODevice& in, QIODevice& out, QIODevice& err)
     : m_store(home)
     , m_lock(home)
     , m_in(in)
-    , m_out(out) {}
+    , m_out(out)
+    , m_err(err) {}
+
+void CliContext::warn(const QString& text) {
+    m_err.write((QStringLiteral("brevaro-cli: warning: ") + escapeControls(text) + u'\n').toUtf8());
+}
+
+void CliContext::warnAboutDamage(int companyId) {
+    if (m_warned)
+        return;
+    m_warned = true;
+    for (const QString& problem : m_store.damage(companyId))
+        warn(problem);
+}
+
+void CliContext::warnAboutProgramFile(int companyId) {
+    if (const QString problem = m_store.programFile(companyId).damage(); !problem.isEmpty())
+        warn(problem);
+}
 
 void CliContext::lockForWriting() {
+    if (m_lock.isLocked())
+        return;
     QString message;
     if (!m_lock.acquire(&message))
         throw CliError{2, message};
     if (!m_store.completeInterruptedDeletion())
-        throw CliError{2, QStringLiteral("an interrupted deletion cannot be completed: ") +
-                              m_store.errorString()};
+        throw CliError{2, m_store.errorString()};
+    for (const QString& line : m_store.clearCrashLeftovers())
+        warn(line);
+    warnAboutDamage();
+    // From here on the command's changes are gathered and written together by finish().
+    m_store.beginBatch();
 }
 
-void CliContext::prepareForReading() {
-    if (QFile::exists(home().deletionIntentFile()))
-        lockForWriting();
+void CliContext::finish() {
+    if (!m_store.commitBatch())
+        throw CliError{2,
+                       QStringLiteral("the changes could not be saved: ") + m_store.errorString()};
+}
+
+namespace {
+
+// Changes when a writer replaces the company file (a deletion always shortens it), and while
+// a deletion or a save of several files is under way.
+struct CompanyFileStamp {
+    bool intent = false;
+    qint64 size = -1;
+    QDateTime modified;
+    bool operator==(const CompanyFileStamp&) const = default;
+};
+
+CompanyFileStamp stampOf(const AppHome& home) {
+    const QFileInfo info(home.companyFile());
+    return {QFileInfo::exists(home.deletionIntentFile()) ||
+                QFileInfo::exists(home.saveIntentFile()),
+            info.exists() ? info.size() : -1, info.lastModified()};
+}
+
+constexpr int kWaitStepMs = 20;
+constexpr int kWaitLimitMs = 10'000;
+
+} // namespace
+
+// A deletion that another writer runs is waited for; one that nobody runs is completed.
+void CliContext::waitForDeletion() {
+    const auto pending = [this] {
+        return QFile::exists(home().deletionIntentFile()) || QFile::exists(home().saveIntentFile());
+    };
+    for (int waited = 0; pending(); waited += kWaitStepMs) {
+        if (m_lock.isLocked())
+            return;
+        QString message;
+        if (m_lock.acquire(&message)) {
+            if (!m_store.completeInterruptedDeletion())
+                throw CliError{2, m_store.errorString()};
+            return;
+        }
+        if (waited >= kWaitLimitMs)
+            throw CliError{2, message};
+        QThread::msleep(kWaitStepMs);
+    }
+}
+
+void CliContext::prepareForReading(int companyId) {
+    const QFileInfo root(home().root());
+    if (root.exists() && !root.isDir())
+        throw CliError{2, QStringLiteral("the home %1 is not a folder")
+                              .arg(QDir::toNativeSeparators(home().root()))};
+    waitForDeletion();
+    warnAboutDamage(companyId);
+}
+
+QByteArray CliContext::readStable(const std::function<QByteArray()>& read) {
+    for (int waited = 0;; waited += kWaitStepMs) {
+        waitForDeletion();
+        const CompanyFileStamp before = stampOf(home());
+        QByteArray out = read();
+        const CompanyFileStamp after = stampOf(home());
+        if (m_lock.isLocked() || (!after.intent && after == before))
+            return out;
+        if (waited >= kWaitLimitMs)
+            throw CliError{2, QStringLiteral("The data in %1 is in use by another Brevaro "
+                                             "window or command. Close it and try again.")
+                                  .arg(home().root())};
+        QThread::msleep(kWaitStepMs);
+    }
 }
 
 EditingSession& CliContext::session() {
@@ -58,8 +157,14 @@ void CliContext::select(int company, int program) {
 }
 
 void CliContext::failOnMessages() {
-    if (!m_prompts.messages.isEmpty())
-        throw CliError{2, m_prompts.messages.join(QStringLiteral(" ")).simplified()};
+    if (m_prompts.messages.isEmpty())
+        return;
+    const QString text = m_prompts.messages.join(QStringLiteral(" "));
+    // A failed save is told in the store's own words; the window's text speaks of its screen.
+    const QString stored = m_store.errorString();
+    if (!stored.isEmpty() && text.contains(stored))
+        throw CliError{2, QStringLiteral("the changes could not be saved: ") + stored};
+    throw CliError{2, text.simplified()};
 }
 
 int CliContext::companyId(int company) {

@@ -7,13 +7,14 @@
 #include "store/RecordStore.h"
 
 #include <QIODevice>
+#include <functional>
 
 namespace brevaro::cli {
 
 // What a command works with: the home's records, the streams, and the home lock.
 class CliContext {
 public:
-    CliContext(AppHome home, QIODevice& in, QIODevice& out);
+    CliContext(AppHome home, QIODevice& in, QIODevice& out, QIODevice& err);
 
     RecordStore& store() { return m_store; }
     const AppHome& home() const { return m_store.home(); }
@@ -22,8 +23,15 @@ public:
     // Takes the home lock and completes an interrupted deletion; every command that writes
     // calls it before touching a file.
     void lockForWriting();
-    // Completes an interrupted deletion (taking the lock only then) before anything is read.
-    void prepareForReading();
+    // Writes the changes the command gathered, all of them or none.
+    void finish();
+    // Checks the home before anything is read: a deletion that another writer is running is
+    // waited for, an interrupted one completed (taking the lock only then). Damage is reported
+    // for every program file, or, with companyId, for that company's only (none below 0).
+    void prepareForReading(int companyId = 0);
+    // Runs read until no writer changed the companies meanwhile, so that a reader never
+    // shows half of a company deletion; its output.
+    QByteArray readStable(const std::function<QByteArray()>& read);
 
     // A company or program by 1-based number or exact name; bad input when there is none.
     int company(const QString& which);
@@ -41,6 +49,12 @@ public:
     void failOnMessages();
 
     void print(const QString& text) { m_out.write(text.toUtf8()); }
+    // A warning line on stderr, not ending the command.
+    void warn(const QString& text);
+    // Reports problems of the record files once, as warnings: the company file and the program
+    // files of every company, or of the company with that id only.
+    void warnAboutDamage(int companyId = 0);
+    void warnAboutProgramFile(int companyId);
     void printBytes(const QByteArray& bytes) { m_out.write(bytes); }
 
 private:
@@ -48,8 +62,12 @@ private:
     HomeLock m_lock;
     AutoPrompts m_prompts;
     std::unique_ptr<EditingSession> m_session;
+    void waitForDeletion();
+
     QIODevice& m_in;
     QIODevice& m_out;
+    QIODevice& m_err;
+    bool m_warned = false;
 };
 
 } // namespace brevaro::cli

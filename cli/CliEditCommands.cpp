@@ -178,8 +178,15 @@ int setCommand(CliContext& ctx, const QStringList& words) {
         if (targets[i].type != FieldType::Text)
             numberOf(assignments[i]);
     ctx.select(c, p);
-    for (qsizetype i = 0; i < assignments.size(); ++i)
+    for (qsizetype i = 0; i < assignments.size(); ++i) {
         apply(s, targets[i], assignments[i]);
+        // A value given is saved even where typing alone would not mark the record (the
+        // name boxes are also the record selectors).
+        if (targets[i].side == RecordSide::Company && !s.state().CompanyDirty)
+            s.navigation().SetCompanyDirty();
+        if (targets[i].side == RecordSide::Program && !s.state().ProgramDirty)
+            s.navigation().SetProgramDirty();
+    }
     if (fileInfo) {
         ctx.prompts().nextFile = args.value(QStringLiteral("--file-info"));
         s.screen().click(s.id(u"cmdOpenFileInfo"));

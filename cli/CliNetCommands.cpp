@@ -1,6 +1,7 @@
 #include "CliCommands.h"
 
 #include "keywords/KeywordSuggester.h"
+#include "platform/FileHelpers.h"
 #include "platform/HttpTransfer.h"
 #include "platform/StringHelpers.h"
 #include "platform/TextFiles.h"
@@ -19,13 +20,16 @@ QString source(const CliArgs& args, bool* isFile) {
     *isFile = args.has(QStringLiteral("--file"));
     if (*isFile == !args.positional().isEmpty() || args.positional().size() > 1)
         throw CliError{1, QStringLiteral("give a web address or --file FILE")};
-    if (*isFile) {
-        const QString path = args.value(QStringLiteral("--file"));
-        if (!QFile::exists(path))
-            throw CliError{2, QStringLiteral("there is no file %1").arg(path)};
-        return path;
-    }
-    return args.positional().front();
+    return *isFile ? args.value(QStringLiteral("--file")) : args.positional().front();
+}
+
+// A file read in place of a download: a regular file no larger than a download may be.
+QByteArray readSourceFile(const QString& path) {
+    QByteArray bytes;
+    QString error;
+    if (!readRegularFile(path, HttpTransfer::kMaxBytes, &bytes, &error))
+        throw CliError{2, error};
+    return bytes;
 }
 
 void failUnlessFetched(const HttpTransfer& http, const QString& url) {
@@ -43,18 +47,16 @@ int keywordsCommand(CliContext& ctx, const QStringList& words) {
     HttpTransfer http;
     KeywordSuggester suggester(http);
     if (isFile) {
-        QFile file(from);
-        if (!file.open(QIODevice::ReadOnly))
-            throw CliError{2, QStringLiteral("%1 cannot be read").arg(from)};
-        suggester.checkPage(decodePage(file.readAll()));
+        suggester.checkPage(decodePage(readSourceFile(from)));
     } else {
         suggester.url = from;
         suggester.checkHomepage();
         failUnlessFetched(http, from);
     }
     for (const KeywordEntry& e : suggester.list().entries())
-        ctx.print(e.word + u'\t' + e.countText() + u'\t' + (e.ticked ? u'1' : u'0') + u'\n');
-    ctx.print(QStringLiteral("keywords: ") + suggester.keywords + u'\n');
+        ctx.print(escapeControls(e.word) + u'\t' + e.countText() + u'\t' +
+                  (e.ticked ? u'1' : u'0') + u'\n');
+    ctx.print(QStringLiteral("keywords: ") + escapeControls(suggester.keywords) + u'\n');
     return 0;
 }
 
@@ -64,15 +66,21 @@ int sitesCommand(CliContext& ctx, const QStringList& words) {
     const QString from = source(args, &isFile);
     HttpTransfer http;
     QTemporaryDir scratch;
-    SiteList list(isFile ? from : scratch.filePath(QStringLiteral("swd.dta")), http);
+    const QString copy = scratch.filePath(QStringLiteral("swd.dta"));
+    SiteList list(copy, http);
     if (isFile) {
+        // The list is read from a copy, so that the file read is the file checked.
+        QString error;
+        if (!writeFileAtomically(copy, readSourceFile(from), &error))
+            throw CliError{2, error};
         list.LoadList();
     } else {
         list.Download(from);
         failUnlessFetched(http, from);
     }
     for (const auto& site : list.sites())
-        ctx.print(site.number + u'\t' + site.name + u'\t' + site.url + u'\n');
+        ctx.print(escapeControls(site.number) + u'\t' + escapeControls(site.name) + u'\t' +
+                  escapeControls(site.url) + u'\n');
     return 0;
 }
 

@@ -5,10 +5,12 @@
 #include "pad/PadText.h"
 #include "pad/VerificationReport.h"
 #include "pad/WebInfo.h"
+#include "platform/FileHelpers.h"
+#include "platform/FileNames.h"
 #include "platform/Win1252.h"
 
+#include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace brevaro::cli {
 
@@ -27,10 +29,10 @@ EditingSession& showProgram(CliContext& ctx, const CliArgs& args) {
 void writeOrPrint(CliContext& ctx, const CliArgs& args, const QByteArray& bytes) {
     if (!args.has(QStringLiteral("-o")))
         return ctx.printBytes(bytes);
-    QSaveFile file(args.value(QStringLiteral("-o")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw CliError{
-            2, QStringLiteral("%1 cannot be written: %2").arg(file.fileName(), file.errorString())};
+    QString error;
+    if (!writeFileAtomically(args.value(QStringLiteral("-o")), bytes, &error))
+        throw CliError{2, QStringLiteral("%1 cannot be written: %2")
+                              .arg(args.value(QStringLiteral("-o")), error)};
 }
 
 const QString kCrLf = QStringLiteral("\r\n");
@@ -47,9 +49,23 @@ int padCommand(CliContext& ctx, const QStringList& words) {
         ctx.printBytes(toWin1252(QString(CreatePADText(s.company(), s.program()) + kCrLf)));
         return 0;
     }
+    // The companion goes beside the PAD file, so the folder must be a real one: a bare file
+    // name is in the current folder.
+    const QFileInfo target(args.value(QStringLiteral("-o")));
+    const QString path = QDir::toNativeSeparators(target.absoluteFilePath());
+    if (!target.absoluteDir().exists())
+        throw CliError{2, QStringLiteral("the folder %1 does not exist")
+                              .arg(QDir::toNativeSeparators(target.absolutePath()))};
+    if (target.isDir())
+        throw CliError{2, QStringLiteral("%1 is a folder; give a file name").arg(path)};
+    if (GetFileBaseName(path, QDir::separator()).isEmpty())
+        throw CliError{
+            2, QStringLiteral("give the PAD file a name with an extension, such as "
+                              "%1.xml, so that its web page can be named after it")
+                   .arg(target.fileName().isEmpty() ? QStringLiteral("pad") : target.fileName())};
     QString error;
-    if (!s.pad().writePadFiles(args.value(QStringLiteral("-o")), &error))
-        throw CliError{2, error};
+    if (!s.pad().writePadFiles(path, &error))
+        throw CliError{2, error.split(u'\n', Qt::SkipEmptyParts).join(QStringLiteral("; "))};
     return 0;
 }
 
@@ -78,20 +94,44 @@ int importCommand(CliContext& ctx, const QStringList& words) {
     for (const QString& path : args.positional())
         if (!QFileInfo(path).isFile())
             throw CliError{2, QStringLiteral("there is no file %1").arg(path)};
-    for (const QString& path : args.positional()) {
-        EditingSession& s = ctx.session();
-        // Each file goes into a window as it is freshly started: company 1 and its first
-        // program shown.
-        if (s.state().CompanyCount > 0)
-            ctx.select(1, s.screen().at(u"cboProgramName").items.isEmpty() ? 0 : 1);
-        if (!s.pad().importPadFile(path))
-            throw CliError{
-                2, QStringLiteral("%1 is not a PAD file: it must start with <?xml").arg(path)};
-        ctx.failOnMessages();
-        ctx.print(QStringLiteral("%1\t%2\n")
-                      .arg(s.state().CurrentCompanyNo)
-                      .arg(s.state().CurrentProgramNo));
+    // Every file goes in one batch, so each record file is written once, at the end.
+    const QStringList files = args.positional();
+    QString printed;
+    qsizetype done = 0;
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        try {
+            EditingSession& s = ctx.session();
+            // Each file goes into a window as it is freshly started: company 1 and its first
+            // program shown.
+            if (s.state().CompanyCount > 0)
+                ctx.select(1, s.screen().at(u"cboProgramName").items.isEmpty() ? 0 : 1);
+            // A refused file changes nothing.
+            if (!s.pad().importPadFile(files[i]))
+                throw CliError{
+                    2,
+                    QStringLiteral("%1 is not a PAD file: it must start with <?xml").arg(files[i])};
+            printed += QStringLiteral("%1\t%2\n")
+                           .arg(s.state().CurrentCompanyNo)
+                           .arg(s.state().CurrentProgramNo);
+            done = i + 1;
+            ctx.failOnMessages();
+        } catch (CliError& e) {
+            // What went in is kept, and the message says which files those are, so that a
+            // rerun can leave them out.
+            ctx.finish();
+            ctx.print(printed);
+            if (files.size() > 1)
+                e.message +=
+                    QStringLiteral("; imported: %1; not imported: %2")
+                        .arg(done > 0 ? files.mid(0, done).join(QStringLiteral(", "))
+                                      : QStringLiteral("none"),
+                             done < files.size() ? files.mid(done).join(QStringLiteral(", "))
+                                                 : QStringLiteral("none"));
+            throw;
+        }
     }
+    ctx.finish();
+    ctx.print(printed);
     return 0;
 }
 

@@ -2,6 +2,7 @@
 
 #include "AppVersion.h"
 #include "CliCommands.h"
+#include "platform/StringHelpers.h"
 
 namespace brevaro::cli {
 
@@ -28,7 +29,7 @@ QString helpText() {
 int runCli(const QStringList& args, const QString& executableFolder, QIODevice& in, QIODevice& out,
            QIODevice& err) {
     auto fail = [&](int status, const QString& message) {
-        err.write((QStringLiteral("brevaro-cli: ") + message + u'\n').toUtf8());
+        err.write((QStringLiteral("brevaro-cli: ") + escapeControls(message) + u'\n').toUtf8());
         return status;
     };
     QString homeOption;
@@ -59,8 +60,10 @@ int runCli(const QStringList& args, const QString& executableFolder, QIODevice& 
         if (name != QLatin1String(command.name))
             continue;
         try {
-            CliContext ctx(AppHome::resolve(homeOption, executableFolder), in, out);
-            return command.run(ctx, rest);
+            CliContext ctx(AppHome::resolve(homeOption, executableFolder), in, out, err);
+            const int status = command.run(ctx, rest);
+            ctx.finish();
+            return status;
         } catch (const CliError& e) {
             return fail(e.status, e.message);
         }

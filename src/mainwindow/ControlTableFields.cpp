@@ -127,19 +127,19 @@ void programInfoControls(TableBuilder& t) {
         .caption("Version")
         .tip("Enter current program version");
     t.add("cboReleaseMonth", K::ComboBox)
-        .caption("Release Month")
+        .caption("Release Date (month)")
         .program(PF::ReleaseMonth)
         .mark(P, kMarkOnChange)
         .hint("Select Release Month")
         .tip("Enter release Month");
     t.add("cboReleaseDay", K::ComboBox)
-        .caption("Release Day")
+        .caption("Release Date (day)")
         .program(PF::ReleaseDay)
         .mark(P, kMarkOnChange)
         .hint("Select Release Day")
         .tip("Enter release Day");
     t.add("cboReleaseYear", K::ComboBox)
-        .caption("Release Year")
+        .caption("Release Date (year)")
         .program(PF::ReleaseYear)
         .mark(P, kMarkOnChange)
         .hint("Select Release Year")
@@ -256,17 +256,17 @@ void programInfoControls(TableBuilder& t) {
         .program(PF::ExpireMonth)
         .mark(P, kMarkOnChange)
         .hint("Select Expire Month")
-        .caption("Expire on");
+        .caption("Expire on (month)");
     t.add("cboExpireDay", K::ComboBox)
         .program(PF::ExpireDay)
         .mark(P, kMarkOnChange)
         .hint("Select Expire Day")
-        .caption("Expire Day");
+        .caption("Expire on (day)");
     t.add("cboExpireYear", K::ComboBox)
         .program(PF::ExpireYear)
         .mark(P, kMarkOnChange)
         .hint("Select Expire year")
-        .caption("Expire Year");
+        .caption("Expire on (year)");
     t.add("txtExpireInfo", K::TextBox)
         .program(PF::ExpireOtherInfo, 0, 128)
         .mark(P, kMarkOnChange)

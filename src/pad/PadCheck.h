@@ -20,7 +20,7 @@ struct PadFinding {
     QString place;   // its tab, and frame or language, e.g. "Company Info, Author"
     QString value;   // the offending value, cut short
     QString message; // what is wrong and how to fix it, in plain words
-    PadSide side = PadSide::None;
+    RecordSide side = RecordSide::None;
     int field = -1;
     int entry = 0;
 };

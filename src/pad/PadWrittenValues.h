@@ -8,9 +8,6 @@
 
 namespace brevaro {
 
-// Which record a value comes from; the order is that of the control table's RecordSide.
-enum class PadSide { None, Company, Program };
-
 // One value element of the PAD document as the writer writes it, with the field it comes from
 // and the field's label as the window shows it (place: the tab, and the frame or language).
 struct PadWrittenValue {
@@ -18,7 +15,7 @@ struct PadWrittenValue {
     QString value;
     QString label;
     QString place;
-    PadSide side = PadSide::None;
+    RecordSide side = RecordSide::None;
     int field = -1; // index into the record layout of side
     int entry = 0;  // entry of an array field (the description language)
 };

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QByteArray>
 #include <QDateTime>
+#include <QFileDevice>
 #include <QString>
 
 namespace brevaro {
@@ -15,5 +17,16 @@ qint64 fileSize(const QString& path);
 QDateTime fileTimeStamp(const QString& path);
 // Makes sure the folder exists; false when it cannot be created.
 bool ensureFolder(const QString& path);
+
+// Reads a regular file of at most maxBytes; false with a plain, one-line reason (a folder, a
+// device or pipe, a file too large, unreadable) in *error.
+bool readRegularFile(const QString& path, qint64 maxBytes, QByteArray* out, QString* error);
+// Replaces the file with bytes through a temporary file renamed into place; false with a
+// plain, one-line reason ("the disk is full", ...) in *error.
+bool writeFileAtomically(const QString& path, const QByteArray& bytes, QString* error);
+// Renames from over to, replacing it in one step; false when that cannot be done.
+bool replaceFile(const QString& from, const QString& to);
+// The reason a write to file failed, in plain words.
+QString plainWriteError(const QFileDevice& file, qint64 bytesWanted);
 
 } // namespace brevaro

@@ -20,6 +20,8 @@ namespace brevaro {
 class HttpTransfer : public QObject {
     Q_OBJECT
 public:
+    // The most a transfer receives; a file read in place of a download is held to it too.
+    static constexpr qint64 kMaxBytes = 16 * 1024 * 1024;
     static constexpr int kDirectionIn = 1;
 
     explicit HttpTransfer(QObject* parent = nullptr);
@@ -64,7 +66,7 @@ private:
     QString m_localFile;
     QString m_error;
     int m_idleMs = 30000;
-    qint64 m_maxBytes = 16 * 1024 * 1024;
+    qint64 m_maxBytes = kMaxBytes;
     qint64 m_received = 0;
     int m_status = 0;
     bool m_started = false;

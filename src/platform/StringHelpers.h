@@ -18,4 +18,9 @@ qsizetype findFrom(qsizetype start, QStringView text, QStringView pattern);
 // text with every occurrence of pattern removed.
 QString removeAll(QString text, QStringView pattern);
 
+// text for a line of terminal output: control characters (C0, DEL, C1) are written as \t, \n,
+// \r or \xHH, and a backslash as \\, so that a name can neither break a line or a column nor
+// send a terminal escape.
+QString escapeControls(QStringView text);
+
 } // namespace brevaro

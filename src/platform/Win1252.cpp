@@ -34,10 +34,14 @@ char toWin1252Char(QChar c) {
 }
 
 QByteArray toWin1252(QStringView text) {
-    QByteArray out(text.size(), Qt::Uninitialized);
-    char* dst = out.data();
-    for (qsizetype i = 0; i < text.size(); ++i)
-        dst[i] = toWin1252Char(text[i]);
+    QByteArray out;
+    out.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        // A character outside the basic plane (a surrogate pair) is one character: one '?'.
+        if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
+            ++i;
+        out += toWin1252Char(text[i]);
+    }
     return out;
 }
 

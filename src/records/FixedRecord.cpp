@@ -1,5 +1,7 @@
 #include "records/FixedRecord.h"
 
+#include <algorithm>
+
 #include "platform/StringHelpers.h"
 #include "platform/Win1252.h"
 
@@ -66,11 +68,11 @@ void FixedRecord::setText(int field, QStringView value, int index) {
     const RecordField& f = fieldAt(field);
     checkEntry(f, index, true);
     char* dst = m_bytes.data() + f.entryOffset(index);
-    const qsizetype n = std::min<qsizetype>(value.size(), f.width);
-    for (qsizetype i = 0; i < n; ++i)
-        dst[i] = toWin1252Char(value[i]);
-    for (qsizetype i = n; i < f.width; ++i)
-        dst[i] = ' ';
+    // Widths count characters; a surrogate pair is one character (one '?').
+    const QByteArray bytes = toWin1252(value);
+    const qsizetype n = std::min<qsizetype>(bytes.size(), f.width);
+    std::copy_n(bytes.constData(), n, dst);
+    std::fill(dst + n, dst + f.width, ' ');
 }
 
 QString FixedRecord::trimText(int field, int index) {

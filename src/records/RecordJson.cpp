@@ -1,5 +1,7 @@
 #include "records/RecordJson.h"
 
+#include <limits>
+
 #include <QJsonArray>
 #include <QRegularExpression>
 
@@ -34,8 +36,14 @@ bool FieldAssignment::parse(const QString& text, FieldAssignment* out) {
     if (!match.hasMatch())
         return false;
     out->name = match.captured(1);
-    out->index =
-        match.hasCaptured(2) && !match.captured(2).isEmpty() ? match.captured(2).toInt() : -1;
+    out->index = -1;
+    if (match.hasCaptured(2) && !match.captured(2).isEmpty()) {
+        // An index too large for an int is out of every range, never wrapped.
+        bool ok = false;
+        out->index = match.captured(2).toInt(&ok);
+        if (!ok)
+            out->index = std::numeric_limits<int>::max();
+    }
     out->value = match.captured(3);
     return true;
 }

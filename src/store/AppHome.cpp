@@ -48,6 +48,9 @@ QString AppHome::programFile(int companyId) const {
 QString AppHome::deletionIntentFile() const {
     return join(dataFolder(), QStringLiteral("deletion.intent"));
 }
+QString AppHome::saveIntentFile() const {
+    return join(dataFolder(), QStringLiteral("save.intent"));
+}
 QString AppHome::verificationPage() const {
     return join(m_root, QStringLiteral("temp1.htm"));
 }

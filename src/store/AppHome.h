@@ -20,6 +20,7 @@ public:
     QString companyFile() const;
     QString programFile(int companyId) const;
     QString deletionIntentFile() const;
+    QString saveIntentFile() const;
     QString verificationPage() const;
     QString siteListFile() const;
     QString lockFile() const;

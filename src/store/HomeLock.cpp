@@ -1,9 +1,40 @@
 #include "store/HomeLock.h"
 
+#include "platform/FileHelpers.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QSysInfo>
+#include <QThread>
+
 namespace brevaro {
 
 HomeLock::HomeLock(const AppHome& home)
     : m_home(home) {}
+
+std::optional<HomeLock::Owner> HomeLock::parseOwner(const QByteArray& bytes) {
+    if (bytes.size() > kMaxLockFileBytes)
+        return std::nullopt;
+    const QList<QByteArray> lines = bytes.split('\n');
+    static const QRegularExpression number(QStringLiteral("^[1-9][0-9]{0,9}$"));
+    if (lines.size() < 3 || !number.match(QString::fromLatin1(lines[0])).hasMatch())
+        return std::nullopt;
+    Owner owner;
+    owner.pid = lines[0].toLongLong();
+    owner.application = QString::fromUtf8(lines[1]);
+    owner.host = QString::fromUtf8(lines[2]);
+    if (owner.pid > std::numeric_limits<qint32>::max())
+        return std::nullopt;
+    return owner;
+}
+
+std::optional<HomeLock::Owner> HomeLock::readOwner() const {
+    QByteArray bytes;
+    QString ignored;
+    if (!readRegularFile(m_home.lockFile(), kMaxLockFileBytes, &bytes, &ignored))
+        return std::nullopt;
+    return parseOwner(bytes);
+}
 
 bool HomeLock::acquire(QString* message) {
     if (!m_home.createFolders()) {
@@ -12,20 +43,37 @@ bool HomeLock::acquire(QString* message) {
         return false;
     }
     m_lock = std::make_unique<QLockFile>(m_home.lockFile());
+    // Qt takes over a lock of this computer whose process is gone; the rest is decided here.
     m_lock->setStaleLockTime(0);
     if (m_lock->tryLock(0))
         return true;
-    if (m_lock->error() == QLockFile::LockFailedError) {
-        qint64 pid = 0;
-        QString host, app;
-        m_lock->getLockInfo(&pid, &host, &app);
-        *message = QStringLiteral("The data in %1 is in use by another Brevaro window or "
-                                  "command (process %2). Close it and try again.")
-                       .arg(m_home.root())
-                       .arg(pid);
-    } else {
+    if (m_lock->error() != QLockFile::LockFailedError) {
         *message = QStringLiteral("The data folder %1 cannot be written.").arg(m_home.root());
+        return false;
     }
+    auto owner = readOwner();
+    if (!owner) {
+        // A writer writes its lock file right after creating it: look once more, then take
+        // the unreadable lock over (Qt removes it only when no living process holds it).
+        QThread::msleep(100);
+        owner = readOwner();
+        if (!owner && m_lock->removeStaleLockFile() && m_lock->tryLock(0))
+            return true;
+    }
+    const QString thisHost = QSysInfo::machineHostName();
+    if (owner && !owner->host.isEmpty() && owner->host != thisHost) {
+        *message = QStringLiteral("The data in %1 is in use by Brevaro on the computer %2 "
+                                  "(process %3). Close it there; if it no longer runs, delete "
+                                  "%4 and try again.")
+                       .arg(m_home.root(), owner->host)
+                       .arg(owner->pid)
+                       .arg(QDir::toNativeSeparators(m_home.lockFile()));
+        return false;
+    }
+    *message = QStringLiteral("The data in %1 is in use by another Brevaro window or "
+                              "command%2. Close it and try again.")
+                   .arg(m_home.root(),
+                        owner ? QStringLiteral(" (process %1)").arg(owner->pid) : QString());
     return false;
 }
 

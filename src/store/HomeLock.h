@@ -4,6 +4,7 @@
 
 #include <QLockFile>
 #include <memory>
+#include <optional>
 
 namespace brevaro {
 
@@ -13,10 +14,25 @@ public:
     explicit HomeLock(const AppHome& home);
 
     // Takes the lock; false with a message for the user when another writer holds it or the
-    // home cannot be written.
+    // home cannot be written. A lock whose owner is gone, or whose file cannot be read (a
+    // writer killed while creating it), is stale and taken over.
     bool acquire(QString* message);
+    bool isLocked() const { return m_lock && m_lock->isLocked(); }
+
+    // Who holds a lock, as its file says.
+    struct Owner {
+        qint64 pid = 0;
+        QString application;
+        QString host;
+    };
+    // The owner written in a lock file's bytes: a process number, the program's name and the
+    // computer's name, one a line; nothing when the bytes do not say so.
+    static std::optional<Owner> parseOwner(const QByteArray& bytes);
+    static constexpr qint64 kMaxLockFileBytes = 4096;
 
 private:
+    std::optional<Owner> readOwner() const;
+
     AppHome m_home;
     std::unique_ptr<QLockFile> m_lock;
 };

@@ -1,11 +1,14 @@
 #include "store/RecordStore.h"
 
+#include "platform/FileHelpers.h"
 #include "platform/StringHelpers.h"
 #include "platform/Win1252.h"
 
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSet>
 #include <QtEndian>
 
 namespace brevaro {
@@ -14,6 +17,7 @@ namespace {
 
 constexpr auto kMovingSuffix = ".moving";
 constexpr auto kDoomedSuffix = ".doomed";
+constexpr auto kPendingSuffix = ".pending";
 
 QStringList trimmedNames(const std::vector<QByteArray>& slices) {
     QStringList names;
@@ -32,12 +36,96 @@ const RecordField& nameField(const RecordLayout& layout) {
 RecordStore::RecordStore(AppHome home)
     : m_home(std::move(home)) {}
 
+// The empty records, made once: a record file is opened for every company in some commands.
+static const QByteArray& emptyCompany() {
+    static const QByteArray bytes = FixedRecord::emptyBytes(companyLayout());
+    return bytes;
+}
+static const QByteArray& emptyProgram() {
+    static const QByteArray bytes = FixedRecord::emptyBytes(programLayout());
+    return bytes;
+}
+
 RecordFile RecordStore::companyFile() const {
-    return RecordFile(m_home.companyFile(), FixedRecord::emptyBytes(companyLayout()));
+    return RecordFile(m_home.companyFile(), emptyCompany(), m_batching ? &m_pending : nullptr);
 }
 
 RecordFile RecordStore::programFile(int companyId) const {
-    return RecordFile(m_home.programFile(companyId), FixedRecord::emptyBytes(programLayout()));
+    return RecordFile(m_home.programFile(companyId), emptyProgram(),
+                      m_batching ? &m_pending : nullptr);
+}
+
+void RecordStore::beginBatch() {
+    m_batching = true;
+}
+
+void RecordStore::discardBatch() {
+    m_pending.clear();
+    m_programNames.clear();
+}
+
+bool RecordStore::commitBatch() {
+    if (m_pending.empty())
+        return true;
+    SaveIntent intent;
+    QStringList pendingFiles;
+    for (const auto& [path, bytes] : m_pending) {
+        const QString name = QFileInfo(path).fileName();
+        if (!bytes) {
+            intent.removed << name;
+            continue;
+        }
+        QString why;
+        if (!writeFileAtomically(path + QLatin1String(kPendingSuffix), *bytes, &why)) {
+            for (const QString& done : pendingFiles)
+                QFile::remove(done);
+            m_error = why;
+            return false;
+        }
+        pendingFiles << path + QLatin1String(kPendingSuffix);
+        intent.written << name;
+    }
+    // From here the new files are complete: the intent makes them the data.
+    QString why;
+    if (!writeFileAtomically(m_home.saveIntentFile(), intent.toBytes(), &why)) {
+        for (const QString& done : pendingFiles)
+            QFile::remove(done);
+        m_error = why;
+        return false;
+    }
+    m_pending.clear();
+    return applySave(intent);
+}
+
+bool RecordStore::applySave(const SaveIntent& intent) {
+    const QDir data(m_home.dataFolder());
+    for (const QString& name : intent.written) {
+        const QString staged = data.filePath(name + QLatin1String(kPendingSuffix));
+        if (QFile::exists(staged) && !replaceFile(staged, data.filePath(name))) {
+            m_error = QStringLiteral("%1 cannot be renamed").arg(QDir::toNativeSeparators(staged));
+            return false;
+        }
+    }
+    for (const QString& name : intent.removed)
+        QFile::remove(data.filePath(name));
+    QFile::remove(m_home.saveIntentFile());
+    return true;
+}
+
+bool RecordStore::completeInterruptedSave() {
+    const QString path = m_home.saveIntentFile();
+    if (!QFileInfo::exists(path))
+        return true;
+    QByteArray bytes;
+    QString why;
+    if (readRegularFile(path, SaveIntent::kMaxBytes, &bytes, &why)) {
+        if (const auto intent = SaveIntent::parse(bytes, &why))
+            return applySave(*intent);
+    }
+    m_error = QStringLiteral("the record of an unfinished save, %1, is damaged (%2); nothing "
+                             "was changed. Move that file away to use the data as it is")
+                  .arg(QDir::toNativeSeparators(path), why);
+    return false;
 }
 
 QString RecordStore::programFileName(int companyId) {
@@ -74,170 +162,302 @@ bool RecordStore::writeProgram(int companyId, int n, const ProgramRecord& record
     RecordFile file = programFile(companyId);
     const bool ok = file.write(n, record.bytes());
     m_error = file.errorString();
+    // The gathered names follow the write, so that a long import does not decode every
+    // name again for each program.
+    const auto cached = m_programNames.find(companyId);
+    if (cached != m_programNames.end()) {
+        const RecordField& f = nameField(programLayout());
+        const QString name = trimBlanks(fromWin1252(record.bytes().mid(f.offset, f.size())));
+        if (ok && n >= 1 && n <= cached->second.size())
+            cached->second[n - 1] = name;
+        else if (ok && n == cached->second.size() + 1)
+            cached->second << name;
+        else
+            m_programNames.erase(cached);
+    }
     return ok;
 }
 
 QStringList RecordStore::programNames(int companyId) const {
+    const auto cached = m_programNames.find(companyId);
+    if (cached != m_programNames.end())
+        return cached->second;
     const RecordField& f = nameField(programLayout());
-    return trimmedNames(programFile(companyId).readSlices(f.offset, f.size()));
+    QStringList names = trimmedNames(programFile(companyId).readSlices(f.offset, f.size()));
+    // Only a batch keeps them: then no other writer changes the files.
+    if (m_batching)
+        m_programNames[companyId] = names;
+    return names;
 }
 
 bool RecordStore::deleteProgram(int companyId, int n) {
+    m_programNames.erase(companyId);
     RecordFile file = programFile(companyId);
     if (!file.remove(n)) {
         m_error = file.errorString();
         return false;
     }
     if (file.count() == 0)
-        QFile::remove(file.path());
+        file.removeFile();
     return true;
 }
 
-// A company deletion is a list of steps in four phases, kept in an intent file until the
-// last phase is done, so that a crash part-way is completed on the next start. Within a
-// phase every step can be run again; the phase number is recorded as each phase ends.
+// A company deletion runs in four phases, kept in an intent file until the last phase is
+// done, so that a crash part-way is completed on the next start. Within a phase every step
+// can be run again; the phase number is recorded as each phase ends.
 //   0 compact  the company file without the company, the later ones renumbered
 //   1 doom     its program file set aside; stage: the later companies' files set aside
 //   2 remove   its program file deleted
 //   3 finish   each set-aside file under its new number, its programs restamped
 bool RecordStore::deleteCompany(int n) {
+    m_programNames.clear();
+    // The deletion has its own intent: what is gathered goes first, the deletion unbatched.
+    if (!commitBatch())
+        return false;
+    const bool batching = std::exchange(m_batching, false);
+    const bool ok = deleteCompanyNow(n);
+    m_batching = batching;
+    return ok;
+}
+
+bool RecordStore::deleteCompanyNow(int n) {
     const int count = companyCount();
     if (n < 1 || n > count) {
         m_error = QStringLiteral("there is no company %1").arg(n);
         return false;
     }
+    const std::vector<int> ids = companyIds();
+    DeletionIntent intent;
+    intent.doomedIndex = n;
+    intent.companyCount = count;
+    intent.doomedFile = ids[std::size_t(n - 1)];
+    for (int k = n + 1; k <= count; ++k)
+        intent.moves.push_back({ids[std::size_t(k - 1)], k - 1});
+    QString why;
+    if (!DeletionIntent::parse(intent.toBytes(), &why)) {
+        m_error = QStringLiteral("the company numbers in %1 are damaged (%2)")
+                      .arg(m_home.companyFile(), why);
+        return false;
+    }
+    if (!saveIntent(intent))
+        return false;
+    return runDeletion(intent, 3);
+}
+
+std::vector<int> RecordStore::companyIds() const {
     std::vector<int> ids;
     const RecordField& idField = companyLayout().fields[0];
     for (const auto& slice : companyFile().readSlices(idField.offset, idField.size()))
         ids.push_back(qFromLittleEndian<qint32>(slice.constData()));
-
-    const QString doomed = programFileName(ids[std::size_t(n - 1)]);
-    QStringList steps{QStringLiteral("compact %1 %2").arg(n).arg(count),
-                      QStringLiteral("doom ") + doomed};
-    QStringList finishing;
-    for (int k = n + 1; k <= count; ++k) {
-        const QString source = programFileName(ids[std::size_t(k - 1)]);
-        steps << QStringLiteral("stage ") + source;
-        finishing << QStringLiteral("finish %1 %2").arg(source).arg(k - 1);
-    }
-    steps << QStringLiteral("remove ") + doomed;
-    steps += finishing;
-    if (!saveIntent(steps, 0))
-        return false;
-    return runDeletion(steps, 0);
+    return ids;
 }
 
 bool RecordStore::completeInterruptedDeletion() {
-    QFile intent(m_home.deletionIntentFile());
-    if (!intent.exists())
-        return true;
-    if (!intent.open(QIODevice::ReadOnly)) {
-        m_error = intent.errorString();
+    m_programNames.clear();
+    if (!completeInterruptedSave())
         return false;
-    }
-    QStringList lines = QString::fromUtf8(intent.readAll()).split(u'\n', Qt::SkipEmptyParts);
-    intent.close();
-    if (lines.isEmpty() || !lines.front().startsWith(QStringLiteral("phase "))) {
-        m_error = QStringLiteral("the deletion record %1 is damaged").arg(intent.fileName());
-        return false;
-    }
-    const int phase = lines.takeFirst().mid(6).toInt();
-    return runDeletion(lines, phase);
+    const bool batching = std::exchange(m_batching, false);
+    const bool ok = completeDeletionNow();
+    m_batching = batching;
+    return ok;
 }
 
-bool RecordStore::saveIntent(const QStringList& steps, int phase) {
-    QSaveFile out(m_home.deletionIntentFile());
-    const QByteArray text =
-        (QStringLiteral("phase %1\n").arg(phase) + steps.join(u'\n') + u'\n').toUtf8();
-    if (!out.open(QIODevice::WriteOnly) || out.write(text) != text.size() || !out.commit()) {
-        m_error = out.errorString();
+bool RecordStore::completeDeletionNow() {
+    const QString path = m_home.deletionIntentFile();
+    if (!QFileInfo::exists(path))
+        return true;
+    QByteArray bytes;
+    QString why;
+    if (!readRegularFile(path, DeletionIntent::kMaxBytes, &bytes, &why)) {
+        m_error = why;
+        return false;
+    }
+    auto intent = DeletionIntent::parse(bytes, &why);
+    if (intent)
+        why = checkIntentAgainstFiles(*intent);
+    if (!why.isEmpty()) {
+        m_error = QStringLiteral("the record of an unfinished company deletion, %1, is damaged "
+                                 "(%2); nothing was changed. Move that file away to use the "
+                                 "data as it is")
+                      .arg(QDir::toNativeSeparators(path), why);
+        return false;
+    }
+    return runDeletion(*intent, 3);
+}
+
+QString RecordStore::checkIntentAgainstFiles(const DeletionIntent& intent) const {
+    const int count = companyCount();
+    const bool compacted = count == intent.companyCount - 1;
+    if (!compacted && count != intent.companyCount)
+        return QStringLiteral("it speaks of %1 companies, the company file holds %2")
+            .arg(intent.companyCount)
+            .arg(count);
+    if (!compacted && intent.phase > 0)
+        return QStringLiteral("the company file was not yet shortened");
+    if (!compacted) {
+        // Before the company file is shortened its numbers name the files exactly.
+        const std::vector<int> ids = companyIds();
+        bool same = ids[std::size_t(intent.doomedIndex - 1)] == intent.doomedFile;
+        for (const auto& m : intent.moves)
+            same = same && ids[std::size_t(m.to)] == m.from;
+        if (!same)
+            return QStringLiteral("its files are not those of the companies");
+    }
+    return QString();
+}
+
+bool RecordStore::runDeletionPhases(const DeletionIntent& intent, int lastPhase) {
+    if (!saveIntent(intent))
+        return false;
+    return runDeletion(intent, lastPhase);
+}
+
+bool RecordStore::saveIntent(const DeletionIntent& intent) {
+    QString why;
+    if (!writeFileAtomically(m_home.deletionIntentFile(), intent.toBytes(), &why)) {
+        m_error = why;
         return false;
     }
     return true;
 }
 
-static int phaseOf(const QString& step) {
-    static const QStringList verbs = {QStringLiteral("compact"), QStringLiteral("doom"),
-                                      QStringLiteral("stage"), QStringLiteral("remove"),
-                                      QStringLiteral("finish")};
-    static const int phases[] = {0, 1, 1, 2, 3};
-    const qsizetype verb = verbs.indexOf(step.section(u' ', 0, 0));
-    return verb < 0 ? -1 : phases[verb];
+QString RecordStore::setAsidePath(int fileNumber, bool doomed) const {
+    return m_home.programFile(fileNumber) + QLatin1String(doomed ? kDoomedSuffix : kMovingSuffix);
 }
 
-bool RecordStore::runDeletion(QStringList steps, int phase) {
-    for (int p = phase; p <= 3; ++p) {
-        for (const QString& step : steps)
-            if (phaseOf(step) == p && !runDeletionStep(step))
+bool RecordStore::setAside(int fileNumber, bool doomed) {
+    const QString source = m_home.programFile(fileNumber);
+    const QString staged = setAsidePath(fileNumber, doomed);
+    if (!QFile::exists(source))
+        return true;
+    QFile::remove(staged);
+    if (!QFile::rename(source, staged)) {
+        m_error = QStringLiteral("%1 cannot be renamed").arg(source);
+        return false;
+    }
+    return true;
+}
+
+bool RecordStore::runDeletion(DeletionIntent intent, int lastPhase) {
+    for (int p = intent.phase; p <= lastPhase; ++p) {
+        if (p == 0 && !compactCompanies(intent))
+            return false;
+        if (p == 1) {
+            if (!setAside(intent.doomedFile, true))
                 return false;
-        if (p < 3 && !saveIntent(steps, p + 1))
-            return false;
+            for (const auto& m : intent.moves)
+                if (!setAside(m.from, false))
+                    return false;
+        }
+        if (p == 2)
+            QFile::remove(setAsidePath(intent.doomedFile, true));
+        if (p == 3)
+            for (const auto& m : intent.moves)
+                if (!finishMove(m))
+                    return false;
+        if (p < 3) {
+            intent.phase = p + 1;
+            if (!saveIntent(intent))
+                return false;
+        }
     }
-    QFile::remove(m_home.deletionIntentFile());
+    if (lastPhase >= 3)
+        QFile::remove(m_home.deletionIntentFile());
     return true;
 }
 
-bool RecordStore::runDeletionStep(const QString& step) {
-    const QStringList words = step.split(u' ');
-    const QString& verb = words.front();
-    const QDir data(m_home.dataFolder());
-    if (verb == QLatin1String("compact") && words.size() == 3) {
-        const int doomed = words[1].toInt();
-        RecordFile file = companyFile();
-        if (file.count() != words[2].toInt())
-            return true; // done before the crash
-        std::vector<QByteArray> records = file.readAll();
-        records.erase(records.begin() + (doomed - 1));
-        for (std::size_t k = std::size_t(doomed - 1); k < records.size(); ++k) {
-            CompanyRecord r;
-            r.setBytes(records[k]);
-            r.setNumber(CompanyField::CompanyID, static_cast<int>(k + 1));
-            records[k] = r.bytes();
-        }
-        const bool ok = file.writeAll(records);
+bool RecordStore::compactCompanies(const DeletionIntent& intent) {
+    RecordFile file = companyFile();
+    if (file.count() != intent.companyCount)
+        return true; // done before the crash
+    auto read = file.readAll();
+    if (!read) {
         m_error = file.errorString();
-        return ok;
+        return false;
     }
-    if (verb == QLatin1String("remove") && words.size() == 2) {
-        QFile::remove(data.filePath(words[1]) + QLatin1String(kDoomedSuffix));
+    std::vector<QByteArray>& records = *read;
+    const int doomed = intent.doomedIndex;
+    records.erase(records.begin() + (doomed - 1));
+    for (std::size_t k = std::size_t(doomed - 1); k < records.size(); ++k) {
+        CompanyRecord r;
+        r.setBytes(records[k]);
+        r.setNumber(CompanyField::CompanyID, static_cast<int>(k + 1));
+        records[k] = r.bytes();
+    }
+    const bool ok = file.writeAll(records);
+    m_error = file.errorString();
+    return ok;
+}
+
+bool RecordStore::finishMove(const DeletionIntent::Move& m) {
+    const QString staged = setAsidePath(m.from, false);
+    if (!QFile::exists(staged))
         return true;
+    RecordFile from(staged, FixedRecord::emptyBytes(programLayout()));
+    auto read = from.readAll();
+    if (!read) {
+        m_error = from.errorString();
+        return false;
     }
-    if ((verb == QLatin1String("stage") || verb == QLatin1String("doom")) && words.size() == 2) {
-        const QString source = data.filePath(words[1]);
-        const QString staged =
-            source + QLatin1String(verb == QLatin1String("doom") ? kDoomedSuffix : kMovingSuffix);
-        if (!QFile::exists(source))
-            return true;
-        QFile::remove(staged);
-        if (!QFile::rename(source, staged)) {
-            m_error = QStringLiteral("%1 cannot be renamed").arg(source);
-            return false;
-        }
-        return true;
+    std::vector<QByteArray>& records = *read;
+    for (auto& bytes : records) {
+        ProgramRecord r;
+        r.setBytes(bytes);
+        r.setNumber(ProgramField::CompanyID, m.to);
+        bytes = r.bytes();
     }
-    if (verb == QLatin1String("finish") && words.size() == 3) {
-        const QString staged = data.filePath(words[1]) + QLatin1String(kMovingSuffix);
-        if (!QFile::exists(staged))
-            return true;
-        const int newId = words[2].toInt();
-        RecordFile from(staged, FixedRecord::emptyBytes(programLayout()));
-        std::vector<QByteArray> records = from.readAll();
-        for (auto& bytes : records) {
-            ProgramRecord r;
-            r.setBytes(bytes);
-            r.setNumber(ProgramField::CompanyID, newId);
-            bytes = r.bytes();
-        }
-        RecordFile to = programFile(newId);
-        if (!to.writeAll(records)) {
-            m_error = to.errorString();
-            return false;
-        }
-        QFile::remove(staged);
-        return true;
+    RecordFile to = programFile(m.to);
+    if (!to.writeAll(records)) {
+        m_error = to.errorString();
+        return false;
     }
-    m_error = QStringLiteral("unknown deletion step: %1").arg(step);
-    return false;
+    QFile::remove(staged);
+    return true;
+}
+
+QStringList RecordStore::damage(int companyId) const {
+    QStringList problems;
+    const RecordFile companies = companyFile();
+    if (const QString d = companies.damage(); !d.isEmpty())
+        problems << d;
+    std::vector<int> ids;
+    if (companyId > 0)
+        ids.push_back(companyId);
+    else if (companyId == 0)
+        ids = companyIds();
+    for (int id : ids)
+        if (const QString d = programFile(id).damage(); !d.isEmpty())
+            problems << d;
+    return problems;
+}
+
+QStringList RecordStore::clearCrashLeftovers() {
+    QStringList report;
+    QDir data(m_home.dataFolder());
+    // QSaveFile's temporary files: the target's name and six random letters or digits.
+    static const QRegularExpression temporary(
+        QStringLiteral("^((company|[1-9][0-9]*)\\.dta(\\.pending)?|deletion\\.intent|save\\.intent)"
+                       "\\.(?!moving$|doomed$)[A-Za-z0-9]{6}$"));
+    static const QRegularExpression programFileName(QStringLiteral("^([1-9][0-9]{0,8})\\.dta$"));
+    const std::vector<int> ids = companyIds();
+    const QSet<int> owned(ids.begin(), ids.end());
+    for (const QString& name : data.entryList(QDir::Files | QDir::Hidden | QDir::System)) {
+        if (temporary.match(name).hasMatch() || (name.endsWith(QLatin1String(kPendingSuffix)) &&
+                                                 !QFileInfo::exists(m_home.saveIntentFile()))) {
+            data.remove(name);
+            continue;
+        }
+        const auto match = programFileName.match(name);
+        if (!match.hasMatch() || owned.contains(match.captured(1).toInt()))
+            continue;
+        QString aside = name + QStringLiteral(".orphaned");
+        for (int k = 2; data.exists(aside); ++k)
+            aside = name + QStringLiteral(".orphaned-%1").arg(k);
+        if (data.rename(name, aside))
+            report << QStringLiteral("%1 belongs to no company; it was set aside as %2")
+                          .arg(QDir::toNativeSeparators(data.filePath(name)), aside);
+    }
+    return report;
 }
 
 } // namespace brevaro

@@ -3,7 +3,9 @@
 #include "records/CompanyRecord.h"
 #include "records/ProgramRecord.h"
 #include "store/AppHome.h"
+#include "store/DeletionIntent.h"
 #include "store/RecordFile.h"
+#include "store/SaveIntent.h"
 
 #include <QStringList>
 
@@ -17,6 +19,16 @@ public:
     explicit RecordStore(AppHome home);
 
     const AppHome& home() const { return m_home; }
+
+    // From here on, changes are gathered in memory (reads see them) until commitBatch writes
+    // them all at once, so that a command changes all its files or none, and writes each
+    // file once. A company deletion first commits what is gathered.
+    void beginBatch();
+    // Puts every gathered change in place through the save intent; false (with nothing
+    // changed, or everything, after the next start) when a file cannot be written.
+    bool commitBatch();
+    // Forgets the gathered changes.
+    void discardBatch();
     RecordFile companyFile() const;
     RecordFile programFile(int companyId) const;
     static QString programFileName(int companyId);
@@ -38,17 +50,44 @@ public:
     // Removes company n and its program file, renumbering the companies after it.
     bool deleteCompany(int n);
     // Completes a company deletion that a crash interrupted; true when there was none left.
+    // An intent file that does not fit the files is refused and nothing is changed.
+    // A save that a crash interrupted is finished first.
     bool completeInterruptedDeletion();
+    // Records the intent and runs its phases up to lastPhase only, leaving the rest to the
+    // next start as a crash would.
+    bool runDeletionPhases(const DeletionIntent& intent, int lastPhase);
 
     const QString& errorString() const { return m_error; }
 
+    // What is wrong with the company file and the program files of its companies (or only
+    // that of company id when it is above 0, none below 0), one plain line each; empty when
+    // nothing is.
+    QStringList damage(int companyId = 0) const;
+    // Clears what a killed writer leaves behind: temporary files of unfinished saves, and
+    // program files that belong to no company (set aside as N.dta.orphaned, so that a new
+    // company never takes over another's programs). Call it holding the home lock, after
+    // completeInterruptedDeletion. Returns what was set aside, one plain line each.
+    QStringList clearCrashLeftovers();
+
 private:
-    bool runDeletion(QStringList steps, int phase);
-    bool runDeletionStep(const QString& step);
-    bool saveIntent(const QStringList& steps, int phase);
+    bool deleteCompanyNow(int n);
+    bool completeDeletionNow();
+    bool completeInterruptedSave();
+    bool applySave(const SaveIntent& intent);
+    std::vector<int> companyIds() const;
+    QString checkIntentAgainstFiles(const DeletionIntent& intent) const;
+    bool runDeletion(DeletionIntent intent, int lastPhase);
+    bool saveIntent(const DeletionIntent& intent);
+    bool compactCompanies(const DeletionIntent& intent);
+    bool finishMove(const DeletionIntent::Move& m);
+    QString setAsidePath(int fileNumber, bool doomed) const;
+    bool setAside(int fileNumber, bool doomed);
 
     AppHome m_home;
     QString m_error;
+    bool m_batching = false;
+    mutable PendingFiles m_pending;
+    mutable std::map<int, QStringList> m_programNames; // by company id, while batching
 };
 
 } // namespace brevaro

@@ -1,7 +1,7 @@
 #include "CleanRecords.h"
 #include "CliTestSupport.h"
 #include "pad/PadText.h"
-#include "records/Win1252.h"
+#include "platform/Win1252.h"
 #include "store/RecordStore.h"
 
 #include <QDir>

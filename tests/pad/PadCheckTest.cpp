@@ -238,8 +238,8 @@ TEST(PadCheck, EveryRequiredFieldLeftEmptyIsNamed) {
             continue;
         CompanyRecord c = company;
         ProgramRecord p = program;
-        FixedRecord& record = v.side == PadSide::Company ? static_cast<FixedRecord&>(c) : p;
-        const FieldSpec& spec = record.layout().fields[static_cast<std::size_t>(v.field)];
+        FixedRecord& record = v.side == RecordSide::Company ? static_cast<FixedRecord&>(c) : p;
+        const RecordField& spec = record.layout().fields[static_cast<std::size_t>(v.field)];
         if (spec.isText()) {
             record.setText(v.field, QString(), v.entry);
         } else if (spec.count > 1) { // the system and language lists
@@ -279,7 +279,7 @@ TEST(PadCheck, FindingsCarryTheFieldAndACutValue) {
     EXPECT_EQ(f.severity, Severity::Error);
     EXPECT_EQ(f.label, QStringLiteral("2000 Char:"));
     EXPECT_EQ(f.place, QStringLiteral("Descriptions, German"));
-    EXPECT_EQ(f.side, PadSide::Program);
+    EXPECT_EQ(f.side, RecordSide::Program);
     EXPECT_EQ(f.field, static_cast<int>(PF::CharDesc2000));
     EXPECT_EQ(f.entry, 3);
     // Around the "&", on one line, cut at both ends.

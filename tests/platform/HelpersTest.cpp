@@ -5,6 +5,7 @@
 
 #include <QStringDecoder>
 
+#include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -82,4 +83,36 @@ TEST(Win1252, AgreesWithQtOnEveryByte) {
         EXPECT_EQ(toWin1252(ours), QByteArray(1, byte)) << b;
     }
     EXPECT_EQ(toWin1252(u"\u0100\u20AC"), QByteArray("?\x80"));
+}
+
+// Bounded reads take regular files only; a full disk is called that.
+TEST(FileHelpers, BoundedReadsAndPlainWriteErrors) {
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("f"));
+    QByteArray bytes, out;
+    QString error;
+    {
+        QFile f(path);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write("12345");
+    }
+    EXPECT_TRUE(readRegularFile(path, 5, &out, &error));
+    EXPECT_EQ(out, QByteArray("12345"));
+    EXPECT_FALSE(readRegularFile(path, 4, &out, &error));
+    EXPECT_FALSE(readRegularFile(dir.path(), 100, &out, &error));
+    EXPECT_FALSE(readRegularFile(QStringLiteral("/dev/zero"), 100, &out, &error));
+    EXPECT_FALSE(readRegularFile(dir.filePath(QStringLiteral("none")), 100, &out, &error));
+
+    QFile full(QStringLiteral("/dev/full"));
+    ASSERT_TRUE(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    EXPECT_NE(full.write(QByteArray(100, 'x')), 100);
+    EXPECT_EQ(plainWriteError(full, 100), QStringLiteral("the disk is full"));
+    EXPECT_TRUE(writeFileAtomically(path, "new", &error));
+    EXPECT_FALSE(writeFileAtomically(dir.filePath(QStringLiteral("no/f")), "x", &error));
+    EXPECT_TRUE(error.contains(QStringLiteral("does not exist"))) << error.toStdString();
+}
+
+TEST(StringHelpers, EscapeControls) {
+    EXPECT_EQ(escapeControls(u"a\nb\tc\rd\x1b[0m\\ \u0085 \u00e9"),
+              QStringLiteral("a\\nb\\tc\\rd\\x1b[0m\\\\ \\x85 \u00e9"));
 }

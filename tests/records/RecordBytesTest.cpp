@@ -103,6 +103,15 @@ TEST(RecordBytes, Windows1252OnDisk) {
     EXPECT_EQ(name, QByteArray("Caf\xE9 \x80 ?"));
     EXPECT_EQ(c.text(CompanyField::CompanyName), QStringLiteral("Caf\u00e9 \u20ac ?"));
 
+    // A character outside the basic plane is one character: one "?", one place of a width;
+    // a lone surrogate is one "?" too.
+    QString lone = QStringLiteral("a\U0001F600b c");
+    lone[4] = QChar(0xD800);
+    EXPECT_EQ(toWin1252(lone), QByteArray("a?b?c"));
+    c.setText(CompanyField::CompanyName,
+              QString(QString(39, u'x') + QStringLiteral("\U0001F600z")));
+    EXPECT_EQ(c.rawText(CompanyField::CompanyName), QString(39, u'x') + u'?');
+
     // The undefined bytes survive a read and a write unchanged.
     const QByteArray odd("\x81\x8D\x8F\x90\x9D", 5);
     EXPECT_EQ(toWin1252(fromWin1252(odd)), odd);

@@ -87,7 +87,7 @@ TEST(RecordFile, DamagedFilesReadWithoutCrashing) {
         garbage += static_cast<char>(i * 37);
     writeBytes(path, garbage);
     EXPECT_EQ(f.count(), 125);
-    EXPECT_EQ(f.readAll().size(), 125u);
+    EXPECT_EQ(f.readAll()->size(), 125u);
 }
 
 TEST(RecordFile, UnwritablePlaceReportsAnError) {
@@ -97,4 +97,29 @@ TEST(RecordFile, UnwritablePlaceReportsAnError) {
     EXPECT_FALSE(f.append(rec('a')));
     EXPECT_FALSE(f.errorString().isEmpty());
     EXPECT_EQ(f.count(), 0);
+}
+
+// A cut file is reported; a file far larger than any record file (a sparse one costs no disk)
+// is never read whole nor rewritten.
+TEST(RecordFile, DamageIsToldAndHugeFilesAreNotRewritten) {
+    TempHome t;
+    const QString path = t.file(QStringLiteral("x.dta"));
+    RecordFile f(path, emptyRecord());
+    EXPECT_TRUE(f.damage().isEmpty()) << "a missing file is no damage";
+    writeBytes(path, rec('a') + rec('b'));
+    EXPECT_TRUE(f.damage().isEmpty());
+    writeBytes(path, rec('a') + QByteArray(3, 'x'));
+    EXPECT_TRUE(f.damage().contains(QStringLiteral("middle of a record")));
+
+    QFile huge(path);
+    ASSERT_TRUE(huge.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(huge.resize(qint64(4) * 1024 * 1024 * 1024));
+    huge.close();
+    EXPECT_TRUE(f.damage().contains(QStringLiteral("far larger")));
+    EXPECT_EQ(f.read(1).value(), QByteArray(8, 'a')) << "one record is still read in place";
+    EXPECT_FALSE(f.write(1, rec('z')));
+    EXPECT_FALSE(f.errorString().isEmpty());
+    EXPECT_FALSE(f.remove(1));
+    EXPECT_FALSE(f.readAll().has_value());
+    EXPECT_EQ(QFileInfo(path).size(), qint64(4) * 1024 * 1024 * 1024);
 }

@@ -83,11 +83,11 @@ TEST(RecordStore, ProgramDeletionCompactsAndDropsTheEmptyFile) {
 // after each phase, again after a phase whose end was not yet recorded, and in the middle of
 // setting the files aside.
 TEST(RecordStore, InterruptedDeletionIsCompleted) {
-    const QStringList steps = {QStringLiteral("compact 2 4"),   QStringLiteral("doom 2.dta"),
-                               QStringLiteral("stage 3.dta"),   QStringLiteral("stage 4.dta"),
-                               QStringLiteral("remove 2.dta"),  QStringLiteral("finish 3.dta 2"),
-                               QStringLiteral("finish 4.dta 3")};
-    const int stepsOfPhase[] = {1, 3, 1, 2};
+    DeletionIntent intent;
+    intent.doomedIndex = 2;
+    intent.companyCount = 4;
+    intent.doomedFile = 2;
+    intent.moves = {{3, 2}, {4, 3}};
     for (int run = 0; run < 11; ++run) {
         const int done = run == 10 ? 1 : run / 2; // phases completed before the crash
         const bool unrecorded = run % 2 == 1;     // the last completed phase was not recorded
@@ -96,22 +96,18 @@ TEST(RecordStore, InterruptedDeletionIsCompleted) {
         RecordStore store(t.home());
         fill(store, 4);
         const QString intentPath = t.home().deletionIntentFile();
-        int taken = 0;
-        for (int p = 0; p < done && p < 4; ++p)
-            taken += stepsOfPhase[p];
-        if (taken > 0) {
-            // Runs the first phases alone, as the process did before it died.
-            writeBytes(intentPath,
-                       (QStringLiteral("phase 0\n") + steps.mid(0, taken).join(u'\n')).toUtf8());
-            ASSERT_TRUE(store.completeInterruptedDeletion());
-        }
+        ASSERT_TRUE(store.runDeletionPhases(intent, done - 1));
         if (run == 10) // died after setting aside one of the files of phase 1
             QFile::rename(t.file(QStringLiteral("data/3.dta")),
                           t.file(QStringLiteral("data/3.dta.moving")));
-        const int recorded = std::max(0, unrecorded ? done - 1 : done);
-        writeBytes(intentPath,
-                   (QStringLiteral("phase %1\n").arg(run == 10 ? 1 : recorded) + steps.join(u'\n'))
-                       .toUtf8());
+        if (unrecorded && done > 0) {
+            DeletionIntent earlier = intent;
+            earlier.phase = done - 1;
+            writeBytes(intentPath, earlier.toBytes());
+        }
+        if (done >= 4 && !unrecorded) { // the crash came after the intent was gone
+            ASSERT_FALSE(QFile::exists(intentPath));
+        }
         ASSERT_TRUE(store.completeInterruptedDeletion()) << store.errorString().toStdString();
         EXPECT_FALSE(QFile::exists(intentPath));
         EXPECT_EQ(store.companyNames(),
@@ -123,15 +119,6 @@ TEST(RecordStore, InterruptedDeletionIsCompleted) {
                   (QStringList{QStringLiteral("1.dta"), QStringLiteral("2.dta"),
                                QStringLiteral("3.dta"), QStringLiteral("company.dta")}));
     }
-}
-
-TEST(RecordStore, DamagedIntentIsReportedNotGuessed) {
-    TempHome t;
-    RecordStore store(t.home());
-    fill(store, 2);
-    writeBytes(t.home().deletionIntentFile(), "garbage");
-    EXPECT_FALSE(store.completeInterruptedDeletion());
-    EXPECT_EQ(store.companyCount(), 2);
 }
 
 TEST(HomeLock, SecondWriterIsRefused) {

@@ -1,0 +1,190 @@
+#include "CliTestSupport.h"
+#include "store/HomeLock.h"
+#include "store/RecordStore.h"
+
+#include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QThread>
+#include <gtest/gtest.h>
+#include <iostream>
+
+using namespace brevaro;
+using namespace brevaro::test;
+
+namespace {
+
+QStringList words(std::initializer_list<const char*> list) {
+    QStringList out;
+    for (const char* w : list)
+        out << QString::fromUtf8(w);
+    return out;
+}
+
+// Companies A and B; B has the program P.
+void twoCompanies(const TempHome& t) {
+    ASSERT_EQ(runCliIn(t, words({"new-company", "A"})).status, 0);
+    ASSERT_EQ(runCliIn(t, words({"new-company", "B"})).status, 0);
+    ASSERT_EQ(runCliIn(t, words({"new-program", "-c", "B", "P"})).status, 0);
+}
+
+QStringList dataFiles(const TempHome& t) {
+    return QDir(t.file(QStringLiteral("data"))).entryList(QDir::Files, QDir::Name);
+}
+
+} // namespace
+
+// The probe's intents: each command, even list, refuses with one line and leaves every file as
+// it was, including a file two folders above the home.
+TEST(CliHomeSafety, DamagedDeletionIntentIsRefused) {
+    const char* intents[] = {"phase 0\ncompact 0 2\n", "phase 0\ncompact -5 2\n",
+                             "phase 0\ncompact 99 2\n", "phase -2147483648\n",
+                             "phase 1\ndoom ../../victim.txt\nremove ../../victim.txt\n"};
+    for (const char* intent : intents) {
+        SCOPED_TRACE(intent);
+        TempHome t;
+        twoCompanies(t);
+        const QString victim =
+            QFileInfo(t.path() + QStringLiteral("/../../victim.txt")).absoluteFilePath();
+        writeBytes(victim, "keep me");
+        writeBytes(t.home().deletionIntentFile(), intent);
+        const QByteArray company = readBytes(t.home().companyFile());
+        for (const char* command : {"list", "new-company"}) {
+            QStringList args{QString::fromLatin1(command)};
+            if (args[0] == QLatin1String("new-company"))
+                args << QStringLiteral("X");
+            const CliResult r = runCliIn(t, args);
+            EXPECT_EQ(r.status, 2);
+            EXPECT_TRUE(r.err.startsWith(QStringLiteral("brevaro-cli: ")));
+            EXPECT_EQ(r.err.count(u'\n'), 1) << r.err.toStdString();
+            EXPECT_TRUE(r.err.contains(QStringLiteral("nothing was changed")));
+            EXPECT_TRUE(r.out.isEmpty());
+        }
+        EXPECT_EQ(readBytes(t.home().companyFile()), company);
+        EXPECT_EQ(dataFiles(t), (QStringList{QStringLiteral("2.dta"), QStringLiteral("company.dta"),
+                                             QStringLiteral("deletion.intent")}));
+        EXPECT_EQ(readBytes(victim), QByteArray("keep me"));
+        QFile::remove(victim);
+    }
+}
+
+// A lock file left empty by a kill does not lock the home for good.
+TEST(CliHomeSafety, EmptyLockLeftByACrashIsTakenOver) {
+    TempHome t;
+    writeBytes(t.home().lockFile(), QByteArray());
+    const CliResult r = runCliIn(t, words({"new-company", "X"}));
+    EXPECT_EQ(r.status, 0) << r.err.toStdString();
+    EXPECT_EQ(r.out, QByteArray("1\n"));
+}
+
+// A reader that comes while another writer deletes a company waits for the deletion and shows
+// the result, never half of it.
+TEST(CliHomeSafety, ReaderWaitsForADeletionInProgress) {
+    TempHome t;
+    twoCompanies(t);
+    RecordStore store(t.home());
+    HomeLock writer(t.home());
+    QString message;
+    ASSERT_TRUE(writer.acquire(&message));
+    DeletionIntent intent;
+    intent.doomedIndex = 1;
+    intent.companyCount = 2;
+    intent.doomedFile = 1;
+    intent.moves = {{2, 1}};
+    ASSERT_TRUE(store.runDeletionPhases(intent, 1)); // half done, as a writer at work
+    QProcess reader;
+    reader.start(QStringLiteral(BREVARO_CLI),
+                 {QStringLiteral("--home"), t.path(), QStringLiteral("list")});
+    ASSERT_TRUE(reader.waitForStarted());
+    QThread::msleep(300);
+    EXPECT_EQ(reader.state(), QProcess::Running) << "the reader must wait";
+    ASSERT_TRUE(store.completeInterruptedDeletion());
+    ASSERT_TRUE(reader.waitForFinished(20000));
+    EXPECT_EQ(reader.exitCode(), 0) << reader.readAllStandardError().toStdString();
+    EXPECT_EQ(reader.readAllStandardOutput(), QByteArray("1\tB\n\t1\tP\t\n"));
+}
+
+// A cut company file is reported, and the programs of a company it no longer holds are not
+// given to the next new company. A sparse 4 GB program file is refused, not rewritten.
+TEST(CliHomeSafety, DamagedRecordFilesAreReported) {
+    TempHome t;
+    twoCompanies(t);
+    writeBytes(t.home().companyFile(), readBytes(t.home().companyFile()).left(100));
+    const CliResult list = runCliIn(t, words({"list"}));
+    EXPECT_EQ(list.status, 0);
+    EXPECT_TRUE(list.err.startsWith(QStringLiteral("brevaro-cli: warning: ")));
+    EXPECT_TRUE(list.err.contains(QStringLiteral("company.dta")));
+    const CliResult created = runCliIn(t, words({"new-company", "New"}));
+    ASSERT_EQ(created.status, 0) << created.err.toStdString();
+    EXPECT_TRUE(created.err.contains(QStringLiteral("2.dta.orphaned")));
+    const CliResult after = runCliIn(t, words({"list"}));
+    EXPECT_EQ(after.out, QByteArray("1\tNew\n"));
+    EXPECT_TRUE(QFile::exists(t.file(QStringLiteral("data/2.dta.orphaned"))));
+
+    TempHome u;
+    twoCompanies(u);
+    QFile huge(u.home().programFile(2));
+    ASSERT_TRUE(huge.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(huge.resize(qint64(4) * 1024 * 1024 * 1024));
+    huge.close();
+    const CliResult set = runCliIn(u, words({"set", "-c", "B", "-p", "1", "ProgramVersion=2"}));
+    EXPECT_EQ(set.status, 2);
+    EXPECT_TRUE(set.err.contains(QStringLiteral("far larger"))) << set.err.toStdString();
+    EXPECT_EQ(QFileInfo(u.home().programFile(2)).size(), qint64(4) * 1024 * 1024 * 1024);
+}
+
+// A kill leaves temporary files beside the record files; the next writer clears them.
+TEST(CliHomeSafety, StrayTemporaryFilesAreCleared) {
+    TempHome t;
+    twoCompanies(t);
+    writeBytes(t.file(QStringLiteral("data/2.dta.TiBxhS")), "half a save");
+    writeBytes(t.file(QStringLiteral("data/deletion.intent.AseIiT")), "half an intent");
+    ASSERT_EQ(runCliIn(t, words({"new-company", "C"})).status, 0);
+    EXPECT_EQ(dataFiles(t), (QStringList{QStringLiteral("2.dta"), QStringLiteral("company.dta")}));
+}
+
+// Killed at any moment, a set of a company field and a program field leaves both changed or
+// neither, once the next command has started.
+TEST(CliHomeSafety, KilledSetChangesBothOrNeither) {
+    TempHome t;
+    twoCompanies(t);
+    QRandomGenerator random(7);
+    int both = 0, neither = 0;
+    for (int run = 1; run <= 100; ++run) {
+        const QString value = QString::number(run);
+        QProcess writer;
+        writer.start(QStringLiteral(BREVARO_CLI),
+                     {QStringLiteral("--home"), t.path(), QStringLiteral("set"),
+                      QStringLiteral("-c"), QStringLiteral("B"), QStringLiteral("-p"),
+                      QStringLiteral("P"), QStringLiteral("CityTown=") + value,
+                      QStringLiteral("ProgramVersion=") + value});
+        ASSERT_TRUE(writer.waitForStarted());
+        QThread::msleep(random.bounded(5, 60));
+        writer.kill();
+        writer.waitForFinished();
+        const CliResult show = runCliIn(t, words({"show", "-c", "B", "--json"}));
+        ASSERT_EQ(show.status, 0) << show.err.toStdString();
+        const QJsonObject json = QJsonDocument::fromJson(show.out).object();
+        const QString city =
+            json[QStringLiteral("company")].toObject()[QStringLiteral("CityTown")].toString();
+        const QString version =
+            json[QStringLiteral("program")].toObject()[QStringLiteral("ProgramVersion")].toString();
+        const bool cityNew = city == value, versionNew = version == value;
+        EXPECT_EQ(cityNew, versionNew)
+            << "run " << run << ": " << city.toStdString() << " / " << version.toStdString();
+        // Leave both at this run's value for the next round.
+        if (!cityNew) {
+            ASSERT_EQ(
+                runCliIn(t, QStringList{QStringLiteral("set"), QStringLiteral("-c"),
+                                        QStringLiteral("B"), QStringLiteral("-p"),
+                                        QStringLiteral("P"), QStringLiteral("CityTown=") + value,
+                                        QStringLiteral("ProgramVersion=") + value})
+                    .status,
+                0);
+        }
+        (cityNew ? both : neither) += 1;
+    }
+    std::cout << "killed set: " << both << " saved whole, " << neither << " not saved\n";
+}

@@ -1,0 +1,182 @@
+#include "CliTestSupport.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+using namespace brevaro;
+using namespace brevaro::test;
+
+namespace {
+
+QStringList words(std::initializer_list<const char*> list) {
+    QStringList out;
+    for (const char* w : list)
+        out << QString::fromUtf8(w);
+    return out;
+}
+
+void companyWithProgram(const TempHome& t) {
+    ASSERT_EQ(runCliIn(t, words({"new-company", "Acme"})).status, 0);
+    ASSERT_EQ(runCliIn(t, words({"new-program", "-c", "Acme", "Widget"})).status, 0);
+}
+
+QJsonObject program(const TempHome& t) {
+    const CliResult r = runCliIn(t, words({"show", "-c", "1", "-p", "1", "--json"}));
+    EXPECT_EQ(r.status, 0) << r.err.toStdString();
+    return QJsonDocument::fromJson(r.out).object()[QStringLiteral("program")].toObject();
+}
+
+// Runs the command with the current folder set to folder.
+CliResult runIn(const TempHome& t, const QString& folder, const QStringList& args) {
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(folder);
+    CliResult r = runCliIn(t, args);
+    QDir::setCurrent(before);
+    return r;
+}
+
+} // namespace
+
+// Only regular files of at most 16 MB are read in place of a download: a pipe, a device or a
+// folder is refused at once with one line.
+TEST(CliInput, PagesAndListsComeFromRegularFilesOnly) {
+    TempHome t;
+    const QString fifo = t.file(QStringLiteral("pipe"));
+    ASSERT_EQ(::mkfifo(fifo.toLocal8Bit().constData(), 0600), 0);
+    const QString big = t.file(QStringLiteral("big.htm"));
+    writeBytes(big, QByteArray(16 * 1024 * 1024 + 1, 'a'));
+    for (const char* command : {"keywords", "sites"}) {
+        for (const QString& path : {fifo, QStringLiteral("/dev/zero"), t.path(), big,
+                                    t.file(QStringLiteral("missing"))}) {
+            SCOPED_TRACE(std::string(command) + " " + path.toStdString());
+            const CliResult r = runCliIn(
+                t, QStringList{QString::fromLatin1(command), QStringLiteral("--file"), path});
+            EXPECT_EQ(r.status, 2);
+            EXPECT_TRUE(r.err.startsWith(QStringLiteral("brevaro-cli: ")));
+            EXPECT_EQ(r.err.count(u'\n'), 1);
+        }
+    }
+    const QString page = t.file(QStringLiteral("page.htm"));
+    writeBytes(page, "<html><body>alpha beta alpha</body></html>");
+    const CliResult ok =
+        runCliIn(t, QStringList{QStringLiteral("keywords"), QStringLiteral("--file"), page});
+    EXPECT_EQ(ok.status, 0) << ok.err.toStdString();
+    EXPECT_TRUE(ok.out.contains("beta\t001\t")) << ok.out.toStdString();
+}
+
+// -o with a bare file name writes both files in the current folder; a name without an
+// extension and a missing folder are refused with one line.
+TEST(CliInput, PadOutputBesideTheNamedFile) {
+    TempHome t;
+    companyWithProgram(t);
+    const QString work = t.file(QStringLiteral("work"));
+    QDir().mkpath(work);
+    const CliResult r = runIn(t, work, words({"pad", "-c", "1", "-p", "1", "-o", "w.xml"}));
+    ASSERT_EQ(r.status, 0) << r.err.toStdString();
+    EXPECT_EQ(QDir(work).entryList(QDir::Files, QDir::Name),
+              (QStringList{QStringLiteral("w.htm"), QStringLiteral("w.xml")}));
+    const CliResult noExtension =
+        runIn(t, work, words({"pad", "-c", "1", "-p", "1", "-o", "noext"}));
+    EXPECT_EQ(noExtension.status, 2);
+    EXPECT_FALSE(QFile::exists(work + QStringLiteral("/.htm")));
+    EXPECT_FALSE(QFile::exists(work + QStringLiteral("/noext")));
+    const CliResult missing =
+        runCliIn(t, QStringList{QStringLiteral("pad"), QStringLiteral("-c"), QStringLiteral("1"),
+                                QStringLiteral("-p"), QStringLiteral("1"), QStringLiteral("-o"),
+                                t.file(QStringLiteral("none/w.xml"))});
+    EXPECT_EQ(missing.status, 2);
+    EXPECT_EQ(missing.err.count(u'\n'), 1) << missing.err.toStdString();
+}
+
+// An index beyond any entry is an error, never wrapped onto entry 0; a new name is saved.
+TEST(CliInput, SetNeverAnswersWrongSilently) {
+    TempHome t;
+    companyWithProgram(t);
+    ASSERT_EQ(runCliIn(t, words({"set", "-c", "1", "-p", "1", "Keywords[0]=first"})).status, 0);
+    for (const char* bad :
+         {"Keywords[4294967296]=x", "Keywords[99999999999999999999]=x", "Keywords[9]=x"}) {
+        const CliResult r = runCliIn(t, QStringList{QStringLiteral("set"), QStringLiteral("-c"),
+                                                    QStringLiteral("1"), QStringLiteral("-p"),
+                                                    QStringLiteral("1"), QString::fromLatin1(bad)});
+        EXPECT_EQ(r.status, 2) << bad;
+    }
+    EXPECT_EQ(program(t)[QStringLiteral("Keywords")].toArray()[0].toString(),
+              QStringLiteral("first"));
+
+    ASSERT_EQ(runCliIn(t, words({"set", "-c", "1", "-p", "1", "ProgramName=Gadget"})).status, 0);
+    ASSERT_EQ(runCliIn(t, words({"set", "-c", "Acme", "CompanyName=Acme Works"})).status, 0);
+    EXPECT_EQ(runCliIn(t, words({"list"})).out, QByteArray("1\tAcme Works\n\t1\tGadget\t\n"));
+}
+
+// Names are printed with their control characters escaped, so a line stays a line and a column
+// a column, and no terminal escape passes through.
+TEST(CliOutput, ControlCharactersAreEscaped) {
+    TempHome t;
+    companyWithProgram(t);
+    ASSERT_EQ(
+        runCliIn(t, QStringList{QStringLiteral("set"), QStringLiteral("-c"), QStringLiteral("1"),
+                                QStringLiteral("-p"), QStringLiteral("1"),
+                                QStringLiteral("ProgramName=a\nb\tc\x1b[31md\\")})
+            .status,
+        0);
+    EXPECT_EQ(runCliIn(t, words({"list"})).out,
+              QByteArray("1\tAcme\n\t1\ta\\nb\\tc\\x1b[31md\\\\\t\n"));
+
+    writeBytes(t.file(QStringLiteral("plain")), "x");
+    const CliResult r =
+        runCliIn(t, QStringList{QStringLiteral("--home"), t.file(QStringLiteral("plain")),
+                                QStringLiteral("list")});
+    EXPECT_EQ(r.status, 2);
+    EXPECT_TRUE(r.err.startsWith(QStringLiteral("brevaro-cli: ")));
+}
+
+// A character Windows-1252 cannot hold is one "?", even outside the basic plane, and counts
+// as one character of a fixed width.
+TEST(CliInput, EmojiIsOneQuestionMark) {
+    TempHome t;
+    companyWithProgram(t);
+    ASSERT_EQ(runCliIn(t, words({"set", "-c", "1", "-p", "1",
+                                 "ProgramVersion=v\xF0\x9F\x98\x80"
+                                 "2"}))
+                  .status,
+              0);
+    EXPECT_EQ(program(t)[QStringLiteral("ProgramVersion")].toString(), QStringLiteral("v?2"));
+}
+
+// When one of several files cannot be imported, the message says which are in and which not.
+TEST(CliInput, ImportSaysWhichFilesWereDone) {
+    TempHome t;
+    const QString good = t.file(QStringLiteral("a.xml"));
+    const QString bad = t.file(QStringLiteral("b.xml"));
+    writeBytes(good, "<?xml version=\"1.0\"?>\r\n<XML_DIZ_INFO><Company_Info><Company_Name>"
+                     "Acme</Company_Name></Company_Info><Program_Info><Program_Name>Widget"
+                     "</Program_Name></Program_Info></XML_DIZ_INFO>\r\n");
+    writeBytes(bad, "not xml");
+    const CliResult r = runCliIn(t, QStringList{QStringLiteral("import"), good, bad});
+    EXPECT_EQ(r.status, 2);
+    EXPECT_EQ(r.out, QByteArray("1\t1\n"));
+    EXPECT_TRUE(r.err.contains(QStringLiteral("imported: ") + good)) << r.err.toStdString();
+    EXPECT_TRUE(r.err.contains(QStringLiteral("not imported: ") + bad));
+    EXPECT_EQ(runCliIn(t, words({"list"})).out, QByteArray("1\tAcme\n\t1\tWidget\t\n"));
+}
+
+// A command that changes a company and a program writes both files together: when the second
+// cannot be written, the first is not changed either.
+TEST(CliInput, SetChangesBothFilesOrNeither) {
+    TempHome t;
+    companyWithProgram(t);
+    const QByteArray company = readBytes(t.home().companyFile());
+    // A folder where the new program file would go makes its write fail.
+    QDir().mkpath(t.file(QStringLiteral("data/1.dta.pending")));
+    const CliResult r =
+        runCliIn(t, words({"set", "-c", "1", "-p", "1", "CityTown=Elsewhere", "ProgramVersion=9"}));
+    EXPECT_EQ(r.status, 2);
+    EXPECT_TRUE(r.err.startsWith(QStringLiteral("brevaro-cli: the changes could not be saved")))
+        << r.err.toStdString();
+    EXPECT_EQ(readBytes(t.home().companyFile()), company);
+    EXPECT_FALSE(QFile::exists(t.home().saveIntentFile()));
+}
