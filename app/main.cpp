@@ -1,14 +1,71 @@
 #include "AppVersion.h"
+#include "mainwindow/EditingSession.h"
+#include "mainwindow/MainWindow.h"
+#include "platform/PromptDialog.h"
+#include "store/AppHome.h"
+#include "store/HomeLock.h"
+#include "store/RecordStore.h"
 
 #include <QApplication>
-#include <QLabel>
+#include <QCommandLineParser>
+#include <QMessageBox>
+#include <QTimer>
+
+using namespace brevaro;
 
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
-    QLabel label(QStringLiteral("Brevaro: the main window is being built."));
-    label.setWindowTitle(QLatin1String(brevaro::kAppTitle));
-    label.setMinimumSize(480, 120);
-    label.setAlignment(Qt::AlignCenter);
-    label.show();
+    QApplication::setApplicationName(QStringLiteral("brevaro"));
+    QApplication::setApplicationDisplayName(QLatin1String(kAppTitle));
+    QApplication::setApplicationVersion(
+        QStringLiteral("%1.%2.%3").arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision));
+    QGuiApplication::setDesktopFileName(QStringLiteral("io.github.brevaro.Brevaro"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Keeps your companies and programs and writes their PAD files."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption homeOption(
+        QStringLiteral("home"),
+        QStringLiteral("The folder that holds the data (else $BREVARO_HOME, a data folder beside "
+                       "the program, or ~/.local/share/brevaro)."),
+        QStringLiteral("DIR"));
+    parser.addOption(homeOption);
+    parser.process(app);
+
+    const AppHome home =
+        AppHome::resolve(parser.value(homeOption), QCoreApplication::applicationDirPath());
+    // One writer per home: a second window on the same data would overwrite the first's saves.
+    HomeLock lock(home);
+    QString busy;
+    if (!home.createFolders() || !lock.acquire(&busy)) {
+        QMessageBox::critical(
+            nullptr, QLatin1String(kAppTitle),
+            busy.isEmpty() ? QStringLiteral("The data folder %1 cannot be used.").arg(home.root())
+                           : busy);
+        return 1;
+    }
+    RecordStore store(home);
+    PromptDialog prompts;
+    EditingSession session(store, prompts);
+    MainWindow window(session);
+    prompts.setParentWindow(&window);
+    // What a crash left behind is cleared before anything reads the files (start-up says
+    // itself when an interrupted deletion cannot be completed); what is damaged is said once
+    // the window is up.
+    QStringList problems;
+    if (store.completeInterruptedDeletion())
+        problems = store.clearCrashLeftovers();
+    session.Start();
+    problems += store.damage();
+    window.show();
+    if (!problems.isEmpty())
+        QTimer::singleShot(0, &window, [&prompts, problems] {
+            prompts.message(QLatin1String(kAppTitle),
+                            QStringLiteral("Brevaro found problems in its data and kept "
+                                           "everything it could read:\n\n") +
+                                problems.join(u'\n'));
+        });
     return app.exec();
 }

@@ -76,5 +76,7 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://www.brevaro.example/")
 # dpkg-shlibdeps finds the libraries the binaries link; the Qt platform plugins are loaded at
 # run time, so the window needs them named.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins")
+# The platform plugins and the SVG icon engine are loaded at run time, so the computed
+# dependencies cannot see them.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, libqt6svg6")
 include(CPack)

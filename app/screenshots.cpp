@@ -1,0 +1,92 @@
+// Writes a picture of every tab of the main window, of the about box and of an empty home to
+// a folder, for the documentation: brevaro-screenshots OUTPUT_DIR PAD_FILE
+#include "mainwindow/AboutDialog.h"
+#include "mainwindow/ControlBindingView.h"
+#include "mainwindow/EditingSession.h"
+#include "mainwindow/MainWindow.h"
+#include "store/AppHome.h"
+#include "store/RecordStore.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace brevaro;
+
+namespace {
+
+// Answers every question the way a user keeping their data would, without showing anything.
+class QuietPrompts : public Prompts {
+public:
+    bool askYesNo(const QString&, const QString&, Icon) override { return true; }
+    std::optional<QString> inputBox(const QString&, const QString&, const QString&) override {
+        return std::nullopt;
+    }
+    std::optional<QString> openFile(const FileDialogSpec&) override { return std::nullopt; }
+    std::optional<QString> saveFile(const FileDialogSpec&) override { return std::nullopt; }
+    void message(const QString&, const QString&) override {}
+    void beep() override {}
+    QString clipboardText() override { return {}; }
+    void setClipboardText(const QString&) override {}
+    void openDocument(const QString&) override {}
+    void pumpEvents() override { QApplication::processEvents(); }
+};
+
+bool save(QWidget& w, const QString& dir, const char* name) {
+    QTest::qWait(150);
+    const QString path = dir + u'/' + QLatin1String(name) + QStringLiteral(".png");
+    if (!w.grab().save(path)) {
+        qWarning("could not write %s", qPrintable(path));
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    QApplication app(argc, argv);
+    if (argc < 3) {
+        qWarning("usage: brevaro-screenshots OUTPUT_DIR PAD_FILE [WIDTH HEIGHT]");
+        return 1;
+    }
+    const QString out = QString::fromLocal8Bit(argv[1]);
+    QDir().mkpath(out);
+    QuietPrompts prompts;
+    QTemporaryDir folder;
+    const AppHome home(folder.path());
+    home.createFolders();
+    RecordStore store(home);
+    bool ok = true;
+    {
+        EditingSession session(store, prompts);
+        MainWindow window(session);
+        session.Start();
+        window.show();
+        ok &= save(window, out, "empty");
+    }
+    EditingSession session(store, prompts);
+    MainWindow window(session);
+    session.Start();
+    if (!session.pad().importPadFile(QString::fromLocal8Bit(argv[2]))) {
+        qWarning("%s is not a PAD file", argv[2]);
+        return 1;
+    }
+    if (argc >= 5)
+        window.resize(QString::fromLocal8Bit(argv[3]).toInt(),
+                      QString::fromLocal8Bit(argv[4]).toInt());
+    window.show();
+    auto* tabs = qobject_cast<QTabWidget*>(window.view().widget(u"SSTab1"));
+    const char* names[] = {"company", "program", "descriptions", "webinfo", "permissions",
+                           "asp",     "esc",     "msn",          "tpa"};
+    for (int i = 0; i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        ok &= save(window, out, names[i]);
+    }
+    AboutDialog about(prompts, &window);
+    about.show();
+    ok &= save(about, out, "about");
+    return ok ? 0 : 1;
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QLabel>
+
+namespace brevaro {
+
+// A label that opens a page when clicked and looks like a link while the mouse is over it:
+// dark blue and underlined, returning to the normal text colour when the mouse leaves.
+class LinkLabelWidget : public QLabel {
+    Q_OBJECT
+public:
+    explicit LinkLabelWidget(const QString& text = {}, QWidget* parent = nullptr);
+
+    // The point size of the label's font (the copyright line is small, the organisations'
+    // addresses large).
+    void setPointSize(int points);
+    bool isHovered() const { return m_hovered; }
+
+signals:
+    void clicked();
+
+protected:
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void setHovered(bool hovered);
+
+    bool m_hovered = false;
+};
+
+} // namespace brevaro

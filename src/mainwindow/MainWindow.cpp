@@ -1,0 +1,176 @@
+#include "mainwindow/MainWindow.h"
+
+#include "mainwindow/AboutDialog.h"
+#include "mainwindow/AssociationTabWidget.h"
+#include "mainwindow/BannerRotation.h"
+#include "mainwindow/BannerStripWidget.h"
+#include "mainwindow/ButtonBarWidget.h"
+#include "mainwindow/CompanyTabWidget.h"
+#include "mainwindow/ControlBindingView.h"
+#include "mainwindow/DescriptionsTabWidget.h"
+#include "mainwindow/EditingSession.h"
+#include "mainwindow/LinkLabelWidget.h"
+#include "mainwindow/Mnemonics.h"
+#include "mainwindow/PermissionsTabWidget.h"
+#include "mainwindow/ProgramTabWidget.h"
+#include "mainwindow/WebInfoTabWidget.h"
+#include "platform/HttpTransfer.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace brevaro {
+
+MainWindow::MainWindow(EditingSession& session, QWidget* parent)
+    : QMainWindow(parent)
+    , m_session(session)
+    , m_http(std::make_unique<HttpTransfer>()) {
+    setObjectName(QStringLiteral("frmStart"));
+    setWindowIcon(QIcon(QStringLiteral(":/icons/brevaro.svg")));
+    m_view = new ControlBindingView(session, this);
+    m_banners = new BannerRotation(session.store().home(), session.prompts(), *m_http, this);
+
+    // Menu bar letters first, so the buttons do not take them.
+    QString used = QStringLiteral("fth");
+    buildMenus();
+    auto* central = new QWidget;
+    auto* column = new QVBoxLayout(central);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    m_strip = new BannerStripWidget(*m_view, *m_banners);
+    column->addWidget(m_strip);
+    auto* middle = new QHBoxLayout;
+    middle->addWidget(new ButtonBarWidget(*m_view, used));
+    middle->addWidget(buildTabs(), 1);
+    column->addLayout(middle, 1);
+    column->addWidget(buildCopyright());
+    setCentralWidget(central);
+    setStatusBar(qobject_cast<QStatusBar*>(m_view->widget(u"StatusBar1")));
+    setTabOrder();
+    setCommandHandlers();
+    connect(&session, &EditingSession::closeRequested, this, [this] {
+        m_shutDown = true;
+        close();
+    });
+    m_view->repaintAll();
+    // 11000 by 8150 twips.
+    resize(733, 543);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::buildMenus() {
+    QHash<int, QMenu*> menus;
+    for (int id : m_view->ids()) {
+        const ControlRow& r = m_view->row(id);
+        if (r.widget == WidgetType::MenuTitle) {
+            auto* menu = qobject_cast<QMenu*>(m_view->widget(id));
+            menu->setTitle(u'&' + r.caption);
+            menu->setParent(menuBar(), menu->windowFlags());
+            menuBar()->addMenu(menu);
+            menus.insert(r.placeIndex, menu);
+        }
+    }
+    QHash<int, QString> usedIn;
+    for (int id : m_view->ids()) {
+        const ControlRow& r = m_view->row(id);
+        QAction* a = m_view->action(id);
+        if (!a || r.place != Place::Menu || !menus.contains(r.placeIndex))
+            continue;
+        if (!a->isSeparator())
+            a->setText(withMnemonic(r.caption, usedIn[r.placeIndex]));
+        menus[r.placeIndex]->addAction(a);
+    }
+}
+
+QWidget* MainWindow::buildTabs() {
+    auto* tabs = qobject_cast<QTabWidget*>(m_view->widget(u"SSTab1"));
+    QList<QWidget*> pages = {new CompanyTabWidget(*m_view), new ProgramTabWidget(*m_view),
+                             new DescriptionsTabWidget(*m_view), new WebInfoTabWidget(*m_view),
+                             new PermissionsTabWidget(*m_view)};
+    for (int extension = 0; extension < 4; ++extension)
+        pages << new AssociationTabWidget(*m_view, extension);
+    // Adding pages is not the user choosing a tab.
+    const QSignalBlocker quiet(tabs);
+    for (int i = 0; i < pages.size(); ++i) {
+        // A page taller than the window scrolls instead of being squeezed.
+        auto* scroll = new QScrollArea;
+        scroll->setWidgetResizable(true);
+        scroll->setFrameShape(QFrame::NoFrame);
+        scroll->setWidget(pages[i]);
+        tabs->addTab(scroll, mainTabCaptions().value(i));
+    }
+    return tabs;
+}
+
+QWidget* MainWindow::buildCopyright() {
+    auto* frame = qobject_cast<QGroupBox*>(m_view->widget(u"frmCopyright"));
+    frame->setFlat(true);
+    auto* row = new QHBoxLayout(frame);
+    row->setContentsMargins(6, 2, 6, 2);
+    auto* line = qobject_cast<LinkLabelWidget*>(m_view->widget(u"lblCopyright"));
+    line->setPointSize(8);
+    row->addStretch();
+    row->addWidget(line);
+    return frame;
+}
+
+// Tab follows the order in which the record operations visit the fields.
+void MainWindow::setTabOrder() {
+    QWidget* previous = nullptr;
+    for (int id : m_view->ids()) {
+        const ControlRow& r = m_view->row(id);
+        QWidget* w = m_view->widget(id);
+        if (r.side == RecordSide::None || !w || r.place == Place::Hidden)
+            continue;
+        if (previous)
+            QWidget::setTabOrder(previous, w);
+        previous = w;
+    }
+}
+
+void MainWindow::setCommandHandlers() {
+    m_session.setCommandHandler(ControlAction::About, [this] {
+        AboutDialog about(m_session.prompts(), this);
+        about.exec();
+    });
+    m_session.setCommandHandler(ControlAction::NextBanner,
+                                [this] { m_banners->Banner_Timer_Timer(); });
+    m_session.setCommandHandler(ControlAction::ClickBanner, [this] { m_banners->clickBanner(); });
+    m_session.setCommandHandler(ControlAction::DownloadBanners,
+                                [this] { m_banners->BannerDataDownload(); });
+}
+
+void MainWindow::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    if (m_shown)
+        return;
+    m_shown = true;
+    // The rotation starts once the window is on screen, so it never delays start-up.
+    QTimer::singleShot(0, m_banners, [this] { m_banners->LoadLocalBannerList(); });
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!m_shutDown && !m_session.Shutdown()) {
+        // A save the user asked for failed: the window stays with the edits on it.
+        event->ignore();
+        return;
+    }
+    event->accept();
+    // Every other window of the program closes with the main window.
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w != this && w->isVisible())
+            w->close();
+}
+
+} // namespace brevaro

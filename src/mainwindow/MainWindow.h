@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+
+namespace brevaro {
+
+class BannerRotation;
+class BannerStripWidget;
+class ControlBindingView;
+class EditingSession;
+class HttpTransfer;
+
+// The main window frmStart: a view over the editing session. Its widgets come from the
+// control table; the menus, the button bar, the banner strip, the nine tabs and the status
+// bar are placed here. Closing runs the session's shutdown (the save prompts).
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit MainWindow(EditingSession& session, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    ControlBindingView& view() { return *m_view; }
+    BannerRotation& banners() { return *m_banners; }
+    BannerStripWidget& bannerStrip() { return *m_strip; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void buildMenus();
+    QWidget* buildTabs();
+    QWidget* buildCopyright();
+    void setTabOrder();
+    void setCommandHandlers();
+
+    EditingSession& m_session;
+    ControlBindingView* m_view;
+    std::unique_ptr<HttpTransfer> m_http;
+    BannerRotation* m_banners;
+    BannerStripWidget* m_strip = nullptr;
+    bool m_shutDown = false;
+    bool m_shown = false;
+};
+
+} // namespace brevaro

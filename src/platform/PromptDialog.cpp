@@ -1,0 +1,126 @@
+#include "platform/PromptDialog.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QUrl>
+
+namespace brevaro {
+
+bool PromptDialog::askYesNo(const QString& title, const QString& text, Icon icon) {
+    QMessageBox box(m_parent);
+    box.setWindowTitle(title);
+    box.setText(text);
+    switch (icon) {
+    case Icon::Question:
+        box.setIcon(QMessageBox::Question);
+        break;
+    case Icon::Stop:
+        box.setIcon(QMessageBox::Critical);
+        break;
+    case Icon::Information:
+        box.setIcon(QMessageBox::Information);
+        break;
+    case Icon::None:
+        break;
+    }
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(QMessageBox::Yes);
+    // Escape and the title bar's close answer No: nothing is done that was not asked for.
+    box.setEscapeButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+std::optional<QString> PromptDialog::inputBox(const QString& prompt, const QString& title,
+                                              const QString& defaultText) {
+    QInputDialog box(m_parent);
+    box.setWindowTitle(title);
+    box.setLabelText(prompt);
+    box.setTextValue(defaultText);
+    box.resize(std::max(box.sizeHint().width(), 420), box.sizeHint().height());
+    if (box.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return box.textValue();
+}
+
+QStringList PromptDialog::nameFilters(const QString& filter) {
+    const QStringList parts = filter.split(u'|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QString patterns = parts[i + 1];
+        patterns.replace(u';', u' ');
+        // "*.*" means every file, also one without a dot in its name.
+        patterns.replace(QStringLiteral("*.*"), QStringLiteral("*"));
+        QString name = parts[i];
+        if (const qsizetype open = name.lastIndexOf(u'('); open > 0 && name.endsWith(u')'))
+            name = name.left(open).trimmed();
+        filters << name + QStringLiteral(" (") + patterns + u')';
+    }
+    return filters;
+}
+
+QUrl PromptDialog::documentUrl(const QString& target) {
+    const QString t = target.trimmed();
+    if (t.isEmpty())
+        return QUrl();
+    if (QDir::isAbsolutePath(t) || QFileInfo::exists(t))
+        return QUrl::fromLocalFile(QFileInfo(t).absoluteFilePath());
+    return QUrl::fromUserInput(t);
+}
+
+std::optional<QString> PromptDialog::fileDialog(const FileDialogSpec& spec, bool save) {
+    QFileDialog dialog(m_parent);
+    dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setNameFilters(nameFilters(spec.filter));
+    if (!spec.defaultExtension.isEmpty())
+        dialog.setDefaultSuffix(spec.defaultExtension);
+    if (!spec.initialFolder.isEmpty())
+        dialog.setDirectory(spec.initialFolder);
+    if (!spec.fileName.isEmpty())
+        dialog.selectFile(spec.fileName);
+    // A save asks before it replaces a file (the dialog's own question).
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
+}
+
+std::optional<QString> PromptDialog::openFile(const FileDialogSpec& dialog) {
+    return fileDialog(dialog, false);
+}
+
+std::optional<QString> PromptDialog::saveFile(const FileDialogSpec& dialog) {
+    return fileDialog(dialog, true);
+}
+
+void PromptDialog::message(const QString& title, const QString& text) {
+    QMessageBox::information(m_parent, title, text);
+}
+
+void PromptDialog::beep() {
+    QApplication::beep();
+}
+
+QString PromptDialog::clipboardText() {
+    return QApplication::clipboard()->text();
+}
+
+void PromptDialog::setClipboardText(const QString& text) {
+    QApplication::clipboard()->setText(text);
+}
+
+void PromptDialog::openDocument(const QString& target) {
+    if (const QUrl url = documentUrl(target); url.isValid() && !url.isEmpty())
+        QDesktopServices::openUrl(url);
+}
+
+void PromptDialog::pumpEvents() {
+    QApplication::processEvents(QEventLoop::AllEvents, 50);
+}
+
+} // namespace brevaro

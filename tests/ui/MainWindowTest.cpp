@@ -1,0 +1,329 @@
+#include "mainwindow/MainWindow.h"
+#include "ScriptedPrompts.h"
+#include "TestSupport.h"
+#include "mainwindow/BannerRotation.h"
+#include "mainwindow/BannerStripWidget.h"
+#include "mainwindow/ControlBindingView.h"
+#include "mainwindow/EditingSession.h"
+#include "mainwindow/LinkLabelWidget.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QToolButton>
+
+using namespace brevaro;
+using namespace brevaro::test;
+
+namespace {
+
+class MainWindowTest : public ::testing::Test {
+protected:
+    TempHome home;
+    RecordStore store{home.home()};
+    ScriptedPrompts prompts;
+    std::unique_ptr<EditingSession> session;
+    std::unique_ptr<MainWindow> window;
+
+    void SetUp() override { open(); }
+
+    void open() {
+        window.reset();
+        session = std::make_unique<EditingSession>(store, prompts);
+        window = std::make_unique<MainWindow>(*session);
+        session->Start();
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    }
+
+    template <typename T = QWidget> T* find(const QString& objectName) {
+        const auto all = window->findChildren<T*>(objectName);
+        EXPECT_EQ(all.size(), 1) << objectName.toStdString();
+        return all.value(0);
+    }
+    QTabWidget* tabs() { return find<QTabWidget>(QStringLiteral("SSTab1")); }
+    QString status() { return window->statusBar()->currentMessage(); }
+    void clickButton(int i) {
+        QTest::mouseClick(find<QPushButton>(QStringLiteral("cmdButton_%1").arg(i)), Qt::LeftButton);
+    }
+    void typeInto(const QString& name, const QString& text) {
+        QWidget* w = find(name);
+        w->setFocus();
+        QTest::keyClicks(w, text);
+    }
+    // Picks the tab the way a user does: a click on its tab.
+    void chooseTab(int i) {
+        QTabBar* bar = tabs()->tabBar();
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(i).center());
+        QApplication::processEvents();
+    }
+};
+
+// The widget class a row asks for.
+bool hasClass(const ControlRow& r, QObject* o) {
+    switch (r.widget) {
+    case WidgetType::LineEdit:
+        return qobject_cast<QLineEdit*>(o);
+    case WidgetType::MultiLineEdit:
+        return qobject_cast<QPlainTextEdit*>(o);
+    case WidgetType::EditableCombo:
+        return qobject_cast<QComboBox*>(o) && static_cast<QComboBox*>(o)->isEditable();
+    case WidgetType::ListCombo:
+        return qobject_cast<QComboBox*>(o) && !static_cast<QComboBox*>(o)->isEditable();
+    case WidgetType::MultiList:
+        return qobject_cast<QListWidget*>(o) &&
+               static_cast<QListWidget*>(o)->selectionMode() == QAbstractItemView::MultiSelection;
+    case WidgetType::CheckBox:
+        return qobject_cast<QCheckBox*>(o);
+    case WidgetType::OptionButton:
+        return qobject_cast<QRadioButton*>(o);
+    case WidgetType::PushButton:
+        return qobject_cast<QPushButton*>(o);
+    case WidgetType::PictureButton:
+        return qobject_cast<QToolButton*>(o);
+    case WidgetType::LinkLabel:
+        return qobject_cast<LinkLabelWidget*>(o);
+    case WidgetType::Label:
+    case WidgetType::BannerImage:
+        return qobject_cast<QLabel*>(o) && !qobject_cast<LinkLabelWidget*>(o);
+    case WidgetType::Frame:
+        return qobject_cast<QGroupBox*>(o);
+    case WidgetType::TabStrip:
+        return qobject_cast<QTabWidget*>(o);
+    case WidgetType::StatusBar:
+        return qobject_cast<QStatusBar*>(o);
+    case WidgetType::MenuTitle:
+        return qobject_cast<QMenu*>(o);
+    case WidgetType::MenuItem:
+    case WidgetType::MenuSeparator:
+        return qobject_cast<QAction*>(o);
+    case WidgetType::Window:
+    case WidgetType::None:
+        break;
+    }
+    return false;
+}
+
+QString withoutMnemonic(QString text) {
+    return text.remove(u'&');
+}
+
+} // namespace
+
+// Every control of the table is one widget of its class, where the table puts it, with the
+// model's limit, tooltip and caption and a name for screen readers.
+TEST_F(MainWindowTest, EveryControlIsOneWidgetWhereTheTableSays) {
+    const ScreenModel& screen = session->screen();
+    auto* languages = find<QTabWidget>(QStringLiteral("SSTab2"));
+    for (const ControlRow& r : mainWindowControls()) {
+        if (r.widget == WidgetType::None || r.widget == WidgetType::Window)
+            continue;
+        SCOPED_TRACE(r.objectName().toStdString());
+        const auto all = window->findChildren<QObject*>(r.objectName());
+        ASSERT_EQ(all.size(), 1);
+        QObject* o = all.front();
+        EXPECT_TRUE(hasClass(r, o));
+        const ControlState& s = screen.at(r.name, r.index);
+        if (auto* a = qobject_cast<QAction*>(o)) {
+            if (!a->isSeparator()) {
+                EXPECT_EQ(withoutMnemonic(a->text()), r.caption);
+            }
+            continue;
+        }
+        auto* w = static_cast<QWidget*>(o);
+        if (r.place == Place::MainTab) {
+            EXPECT_TRUE(tabs()->widget(r.placeIndex)->isAncestorOf(w));
+        }
+        if (r.place == Place::LanguagePage) {
+            EXPECT_TRUE(languages->widget(r.index)->isAncestorOf(w));
+        }
+        if (!r.frame.isEmpty()) {
+            EXPECT_TRUE(find(r.frame)->isAncestorOf(w)) << r.frame.toStdString();
+        }
+        if (r.place == Place::Hidden) {
+            EXPECT_TRUE(w->isHidden());
+        }
+        if (auto* e = qobject_cast<QLineEdit*>(w); e && s.maxLength > 0) {
+            EXPECT_EQ(e->maxLength(), s.maxLength);
+        }
+        if (auto* c = qobject_cast<QComboBox*>(w); c && c->isEditable() && s.maxLength > 0) {
+            EXPECT_EQ(c->lineEdit()->maxLength(), s.maxLength);
+        }
+        if (!s.toolTip.isEmpty()) {
+            EXPECT_EQ(w->toolTip(), s.toolTip);
+        }
+        if (auto* b = qobject_cast<QAbstractButton*>(w); b && !r.caption.isEmpty()) {
+            EXPECT_EQ(withoutMnemonic(b->text()), r.caption);
+        }
+        if (r.side != RecordSide::None) {
+            EXPECT_FALSE(w->accessibleName().isEmpty());
+        }
+    }
+    for (int i = 0; i < tabs()->count(); ++i)
+        EXPECT_EQ(tabs()->tabText(i), mainTabCaptions()[i]);
+    for (int i = 0; i < languages->count(); ++i)
+        EXPECT_EQ(languages->tabText(i), languageTabCaptions()[i]);
+}
+
+TEST_F(MainWindowTest, AnEmptyHomeOpensReadyForTheFirstCompany) {
+    EXPECT_EQ(status(), QStringLiteral("Welcome to Brevaro"));
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblCompanyRecord"))->text(), QStringLiteral("0 of 0"));
+    EXPECT_FALSE(find(QStringLiteral("txtAddress1"))->isEnabled());
+    EXPECT_TRUE(window->windowTitle().startsWith(QStringLiteral("Brevaro ")));
+    EXPECT_EQ(window->size(), QSize(733, 543));
+}
+
+// The whole path of a first PAD file, through real widgets: the file written is the one the
+// command-line tool writes for the same records.
+TEST_F(MainWindowTest, AFirstProductFromNewCompanyToCreatePad) {
+    prompts.inputs.push_back(QStringLiteral("Northwind Tools"));
+    clickButton(0);
+    typeInto(QStringLiteral("txtAddress1"), QStringLiteral("12 Harbour Road"));
+    EXPECT_TRUE(window->windowTitle().contains(QStringLiteral("(MODIFIED)")));
+    EXPECT_FALSE(find(QStringLiteral("cboCompanyName"))->isEnabled());
+    chooseTab(1);
+    EXPECT_EQ(tabs()->currentIndex(), 0);
+    EXPECT_EQ(status(), QStringLiteral("Please SAVE your Company Data before you try to add "
+                                       "products!"));
+    clickButton(1);
+    EXPECT_FALSE(window->windowTitle().contains(QStringLiteral("(MODIFIED)")));
+    EXPECT_TRUE(find(QStringLiteral("cboCompanyName"))->isEnabled());
+
+    chooseTab(1);
+    ASSERT_EQ(tabs()->currentIndex(), 1);
+    prompts.inputs.push_back(QStringLiteral("Harbour Notes"));
+    clickButton(3);
+    typeInto(QStringLiteral("txtProgramVersion"), QStringLiteral("2.4"));
+    auto* systems = find<QListWidget>(QStringLiteral("lstSupportedOS"));
+    for (int item : {0, 2}) {
+        systems->scrollToItem(systems->item(item));
+        QTest::mouseClick(systems->viewport(), Qt::LeftButton, {},
+                          systems->visualItemRect(systems->item(item)).center());
+    }
+    EXPECT_TRUE(session->screen().at(u"lstSupportedOS").selected.value(0));
+    EXPECT_TRUE(session->screen().at(u"lstSupportedOS").selected.value(2));
+    EXPECT_FALSE(session->screen().at(u"lstSupportedOS").selected.value(1));
+    chooseTab(2);
+    typeInto(QStringLiteral("txt45char_0"), QStringLiteral("Notes that sail"));
+    EXPECT_TRUE(status().contains(QStringLiteral("15"))) << status().toStdString();
+    clickButton(4);
+    EXPECT_FALSE(window->windowTitle().contains(QStringLiteral("(MODIFIED)")));
+
+    const QString padFile = home.file(QStringLiteral("notes.xml"));
+    prompts.files.push_back(padFile);
+    clickButton(7);
+    QProcess cli;
+    cli.start(QStringLiteral(BREVARO_CLI),
+              {QStringLiteral("--home"), home.path(), QStringLiteral("pad"), QStringLiteral("-c"),
+               QStringLiteral("1"), QStringLiteral("-p"), QStringLiteral("1")});
+    ASSERT_TRUE(cli.waitForFinished(30000));
+    const QByteArray written = readBytes(padFile);
+    EXPECT_FALSE(written.isEmpty());
+    EXPECT_EQ(written, cli.readAllStandardOutput());
+    EXPECT_TRUE(written.contains("<Program_Name>Harbour Notes</Program_Name>"));
+}
+
+// Loading never marks; closing with both records modified asks twice, company first; a save
+// that fails leaves the window open and modified.
+TEST_F(MainWindowTest, ClosingAsksForEachModifiedRecordAndAFailedSaveKeepsTheWindow) {
+    prompts.inputs.push_back(QStringLiteral("Acme"));
+    clickButton(0);
+    clickButton(1);
+    chooseTab(1);
+    prompts.inputs.push_back(QStringLiteral("Rocket"));
+    clickButton(3);
+    clickButton(4);
+    open();
+    EXPECT_FALSE(window->windowTitle().contains(QStringLiteral("(MODIFIED)")));
+
+    typeInto(QStringLiteral("txtCity"), QStringLiteral("Springfield"));
+    chooseTab(1);
+    typeInto(QStringLiteral("txtProgramVersion"), QStringLiteral("1.1"));
+    prompts.asked.clear();
+    prompts.yesNo = {false, false};
+    EXPECT_TRUE(window->close());
+    ASSERT_EQ(prompts.asked.size(), 2);
+    EXPECT_TRUE(prompts.asked[0].startsWith(QStringLiteral("Acme")));
+    EXPECT_TRUE(prompts.asked[1].startsWith(QStringLiteral("Rocket")));
+
+    open();
+    typeInto(QStringLiteral("txtCity"), QStringLiteral("Shelbyville"));
+    const QString companyFile = home.file(QStringLiteral("data/company.dta"));
+    ASSERT_TRUE(QFile::remove(companyFile));
+    ASSERT_TRUE(QDir().mkpath(companyFile));
+    prompts.yesNo = {true};
+    EXPECT_FALSE(window->close());
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_TRUE(window->windowTitle().contains(QStringLiteral("(MODIFIED)")));
+    EXPECT_FALSE(find(QStringLiteral("cboCompanyName"))->isEnabled());
+    ASSERT_TRUE(QDir(companyFile).removeRecursively());
+    prompts.messages.clear();
+}
+
+// Three banners from a local share folder: each shows for its own time with its tooltip, the
+// next button tells where the rotation is, a click opens the banner's address.
+TEST_F(MainWindowTest, TheBannerStripRotatesTheLocalBanners) {
+    const QString share = home.file(QStringLiteral("share/"));
+    QByteArray data;
+    for (int i = 1; i <= 3; ++i) {
+        writeBytes(share + QStringLiteral("b%1.gif").arg(i), "GIF89a");
+        data += QStringLiteral("RUN|Banner %1|b%1.gif|http://ads.example/%1|01/01/2000|12/31/2099|"
+                               "%2\r\n")
+                    .arg(i)
+                    .arg(i)
+                    .toUtf8();
+    }
+    writeBytes(share + QStringLiteral("data.txt"), data);
+    BannerRotation& rotation = window->banners();
+    rotation.LoadLocalBannerList();
+    auto* banner = find<QLabel>(QStringLiteral("AniGifEx1"));
+    auto* next = find<QToolButton>(QStringLiteral("picClickNextBanner"));
+    QStringList tips, nextTips;
+    QList<int> intervals;
+    for (int i = 0; i < 3; ++i) {
+        QTest::mouseClick(next, Qt::LeftButton);
+        tips << banner->toolTip();
+        nextTips << next->toolTip();
+        intervals << rotation.interval;
+    }
+    EXPECT_TRUE(banner->isVisible());
+    EXPECT_EQ(tips.size(), 3);
+    EXPECT_EQ(QSet<QString>(tips.begin(), tips.end()).size(), 3) << tips.join(u',').toStdString();
+    for (const QString& tip : tips)
+        EXPECT_TRUE(tip.startsWith(QStringLiteral("Click For More Info: Banner ")));
+    EXPECT_EQ(QSet<QString>(nextTips.begin(), nextTips.end()).size(), 3);
+    EXPECT_EQ(QSet<int>(intervals.begin(), intervals.end()).size(), 3);
+    prompts.opened.clear();
+    QTest::mouseClick(banner, Qt::LeftButton);
+    ASSERT_EQ(prompts.opened.size(), 1);
+    EXPECT_TRUE(prompts.opened[0].startsWith(QStringLiteral("http://ads.example/")));
+    EXPECT_EQ(window->bannerStrip().shownImage().isEmpty(), false);
+}
+
+TEST_F(MainWindowTest, HelpMenuAndLinksOpenTheirPages) {
+    auto* signUp = window->findChild<QAction*>(QStringLiteral("mnuHelp_7"));
+    ASSERT_TRUE(signUp);
+    signUp->trigger();
+    auto* organization = find<LinkLabelWidget>(QStringLiteral("lblOrganization_1"));
+    chooseTab(6);
+    QTest::mouseClick(organization, Qt::LeftButton);
+    ASSERT_EQ(prompts.opened.size(), 2);
+    EXPECT_TRUE(prompts.opened[0].contains(QStringLiteral("/register.php?FirstName=")));
+    EXPECT_EQ(prompts.opened[1], organization->text());
+    QTest::mouseMove(organization);
+    EXPECT_TRUE(organization->isHovered());
+}
