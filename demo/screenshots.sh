@@ -1,0 +1,38 @@
+#!/usr/bin/env bash
+# Writes the documentation's pictures of the window to docs/screenshots: a made-up company and
+# product are entered with brevaro-cli, written as a PAD file and imported by the window.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+out=${1:-docs/screenshots}
+tmp=$(mktemp -d)
+trap 'rm -rf "$tmp"' EXIT
+cli() { build/bin/brevaro-cli --home "$tmp/home" "$@" >/dev/null; }
+cli new-company "Northwind Tools"
+cli set -c 1 Address1="12 Harbour Road" CityTown="Portsmouth" StateProvince="Hampshire" \
+    ZipPostalCode="PO1 2AB" Country="United Kingdom" CompanyWebSiteURL="http://www.northwind.example" \
+    AuthorFirstName=Ada AuthorLastName=Marsh AuthorEmail=ada@northwind.example \
+    ContactFirstName=Ada ContactLastName=Marsh ContactEmail=ada@northwind.example \
+    SalesEmail=sales@northwind.example SupportEmail=help@northwind.example \
+    GeneralEmail=info@northwind.example SalesPhone="+44 23 9200 0000"
+cli new-program -c 1 "Harbour Notes"
+cli set -c 1 -p 1 ProgramVersion=2.4.1 ReleaseMonth=11 ReleaseDay=02 ReleaseYear=2026 \
+    CostDollars=19.95 ProgramType=Shareware ReleaseStatus="Major Update" \
+    InstallSupport="Install and Uninstall" SpecificCategory="Productivity" \
+    ChangeInfo="Notes sync between machines; faster search." \
+    SystemRequirements="Any desktop with 2 GB of memory" \
+    FilenameVersioned=hnotes241.zip FilenamePrevious=hnotes240.zip FilenameGeneric=hnotes.zip \
+    FilenameLong="harbour-notes-2.4.1.zip" \
+    "DescriptionActive[0]=1" "Keywords[0]=notes,outliner,journal,sync" \
+    "CharDesc45[0]=Notes that follow you from port to port" \
+    "CharDesc80[0]=An outliner for notes, journals and lists that syncs between your machines" \
+    "CharDesc250[0]=Harbour Notes keeps notes, journals and lists in one outline. Everything is searchable as you type, and your notes follow you between machines." \
+    ApplicationInfoURL=http://www.northwind.example/notes \
+    ApplicationOrderURL=http://www.northwind.example/notes/buy \
+    ApplicationScreenshotURL=http://www.northwind.example/notes/shot.png \
+    ApplicationXMLFileURL=http://www.northwind.example/notes/pad.xml \
+    PrimaryDownloadURL=http://www.northwind.example/notes/hnotes241.zip
+build/bin/brevaro-cli --home "$tmp/home" pad -c 1 -p 1 -o "$tmp/harbour.xml" >/dev/null
+mkdir -p "$out"
+# The window is drawn by a real X server so that fonts and themes are those of a desktop.
+xvfb-run -a build/bin/brevaro-screenshots "$out" "$tmp/harbour.xml"
+ls "$out"
