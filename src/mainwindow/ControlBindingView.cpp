@@ -356,8 +356,11 @@ void ControlBindingView::repaintValue(int id, QWidget* w, unsigned what) {
         if (what & kChangedItems) {
             c->clear();
             c->addItems(s.items);
+        } else if (what & kItemAdded) {
+            // A list filled one entry at a time grows by one entry at a time.
+            c->addItem(s.items.constLast());
         }
-        if (what & (kChangedSelection | kChangedText | kChangedItems)) {
+        if (what & (kChangedSelection | kChangedText | kChangedItems | kItemAdded)) {
             if (c->currentIndex() != s.listIndex)
                 c->setCurrentIndex(s.listIndex);
             if (c->isEditable() && c->currentText() != s.text) {
@@ -369,6 +372,8 @@ void ControlBindingView::repaintValue(int id, QWidget* w, unsigned what) {
         if (what & kChangedItems) {
             l->clear();
             l->addItems(s.items);
+        } else if (what & kItemAdded) {
+            l->addItem(s.items.constLast());
         }
         if (what & (kChangedSelection | kChangedItems))
             for (int i = 0; i < l->count() && i < s.selected.size(); ++i)

@@ -174,7 +174,7 @@ void ScreenModel::addItem(int id, const QString& item) {
     ControlState& s = state(id);
     s.items << item;
     s.selected << false;
-    changed(id, kChangedItems);
+    changed(id, kItemAdded);
 }
 
 void ScreenModel::setCaption(int id, const QString& text) {

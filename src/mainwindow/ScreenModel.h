@@ -51,6 +51,7 @@ enum ControlChange : unsigned {
     kChangedVisible = 32,
     kChangedToolTip = 64,
     kChangedCaption = 128,
+    kItemAdded = 256, // one entry appended to the list (the others are as they were)
 };
 
 // Receives the events that a control raises, whether the user or the program changed it.
