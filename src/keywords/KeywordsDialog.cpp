@@ -85,8 +85,8 @@ KeywordsDialog::KeywordsDialog(KeywordSuggester& suggester, QWidget* parent)
     m_list->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     m_list->headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
 
-    m_info->setText(KeywordSuggester::instructions().replace(QStringLiteral("\r\n"),
-                                                             QStringLiteral("\n")));
+    m_info->setText(
+        KeywordSuggester::instructions().replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     m_info->setTextFormat(Qt::PlainText);
     m_info->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_info->setFrameShape(QFrame::StyledPanel);
@@ -106,10 +106,10 @@ KeywordsDialog::KeywordsDialog(KeywordSuggester& suggester, QWidget* parent)
     });
     connect(m_list->header(), &QHeaderView::sectionClicked, this, &KeywordsDialog::sortBy);
     connect(&m_suggester, &KeywordSuggester::changed, this, &KeywordsDialog::showModel);
-    m_suggester.pump = [] { QCoreApplication::processEvents(); };
+    m_suggester.pump = [] {
+        QCoreApplication::processEvents();
+    };
 
-    m_url->setText(m_suggester.url);
-    m_keywords->setText(m_suggester.keywords);
     sortBy(1);
     showModel();
 }
@@ -134,8 +134,8 @@ void KeywordsDialog::buildCommands() {
     QMenu* file = bar->addMenu(QStringLiteral("&File"));
     file->setObjectName(QStringLiteral("mnuFile"));
     for (const Command& c : kCommands) {
-        QAction* action = c.caption ? file->addAction(QString::fromLatin1(c.caption))
-                                    : file->addSeparator();
+        QAction* action =
+            c.caption ? file->addAction(QString::fromLatin1(c.caption)) : file->addSeparator();
         action->setObjectName(QStringLiteral("mnuPAD_%1").arg(c.menuIndex));
         if (!c.caption)
             continue;
@@ -203,8 +203,10 @@ void KeywordsDialog::buildLayout() {
     outer->addWidget(body, 1);
     outer->addWidget(m_status);
 
-    m_list->setMinimumWidth(m_list->fontMetrics().horizontalAdvance(QLatin1Char('M')) * 24);
-    m_list->setMinimumHeight(m_list->fontMetrics().height() * 14);
+    const QFontMetrics fm = m_list->fontMetrics();
+    m_list->setMinimumSize(fm.horizontalAdvance(QLatin1Char('M')) * 20, fm.height() * 12);
+    // Opens with room for more words than the smallest size shows.
+    resize(sizeHint() + QSize(fm.horizontalAdvance(QLatin1Char('M')) * 6, fm.height() * 6));
 }
 
 void KeywordsDialog::setChecking(bool checking) {
@@ -273,8 +275,8 @@ void KeywordsDialog::fillList() {
 // The word column sorts ascending, the count column by number, highest first.
 void KeywordsDialog::sortBy(int column) {
     m_suggester.list().sortByColumn(column);
-    m_list->header()->setSortIndicator(column, column == 1 ? Qt::DescendingOrder
-                                                           : Qt::AscendingOrder);
+    m_list->header()->setSortIndicator(column,
+                                       column == 1 ? Qt::DescendingOrder : Qt::AscendingOrder);
     fillList();
 }
 
@@ -282,8 +284,10 @@ void KeywordsDialog::showModel() {
     setWindowTitle(m_suggester.caption);
     if (m_url->text() != m_suggester.url)
         m_url->setText(m_suggester.url);
-    if (m_keywords->text() != m_suggester.keywords)
+    if (m_keywords->text() != m_suggester.keywords) {
         m_keywords->setText(m_suggester.keywords);
+        m_keywords->home(false); // a built text is read from its start
+    }
     m_status->showMessage(m_suggester.status);
     if (m_checking)
         m_progress->setBytes(m_suggester.bytesReceived);

@@ -72,9 +72,8 @@ SiteListDialog::SiteListDialog(SiteList& list, QWidget* parent)
     buildLayout();
 
     connect(m_view->header(), &QHeaderView::sectionClicked, this, &SiteListDialog::sortBy);
-    connect(m_view, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
-        showStatus(trimBlanks(item->text(1)));
-    });
+    connect(m_view, &QTreeWidget::itemClicked, this,
+            [this](QTreeWidgetItem* item) { showStatus(trimBlanks(item->text(1))); });
     connect(m_view, &QTreeWidget::itemDoubleClicked, this, &SiteListDialog::chooseSite);
     // Enter on the current entry opens it as a double-click does.
     auto* open = new QAction(m_view);
@@ -131,10 +130,9 @@ void SiteListDialog::buildLayout() {
     outer->addWidget(m_status);
 
     const QFontMetrics fm = m_view->fontMetrics();
-    m_view->setMinimumSize(fm.horizontalAdvance(QLatin1Char('M')) * 48, fm.height() * 16);
-    m_view->header()->resizeSection(1, fm.horizontalAdvance(
-                                           QStringLiteral("Quorin Shareware Download Directory")) +
-                                           fm.horizontalAdvance(QLatin1Char('M')) * 3);
+    m_view->setMinimumSize(fm.horizontalAdvance(QLatin1Char('M')) * 32, fm.height() * 10);
+    resize(sizeHint().expandedTo(
+        QSize(fm.horizontalAdvance(QLatin1Char('M')) * 64, fm.height() * 26)));
 }
 
 void SiteListDialog::showEvent(QShowEvent* event) {
@@ -185,12 +183,13 @@ void SiteListDialog::fillList() {
         items << item;
     }
     m_view->addTopLevelItems(items);
+    m_view->resizeColumnToContents(1);
 }
 
 // Directory names sort descending, the numbers and addresses ascending, all as text.
 void SiteListDialog::sortBy(int column) {
-    m_view->header()->setSortIndicator(column, column == 1 ? Qt::DescendingOrder
-                                                           : Qt::AscendingOrder);
+    m_view->header()->setSortIndicator(column,
+                                       column == 1 ? Qt::DescendingOrder : Qt::AscendingOrder);
     m_list.sortByColumn(column);
 }
 

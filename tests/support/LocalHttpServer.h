@@ -14,9 +14,9 @@ public:
         int status = 200;
         QByteArray contentType = "text/html";
         QByteArray body;
-        QByteArray location;  // a redirect target
-        bool stall = false;   // accept the request and never answer
-        qint64 hugeBytes = 0; // stream this many bytes of filler instead of body
+        QByteArray location;   // a redirect target
+        bool stall = false;    // accept the request and never answer
+        qint64 hugeBytes = 0;  // stream this many bytes of filler instead of body
         bool holdOpen = false; // send the body, announce more and keep the connection open
     };
 

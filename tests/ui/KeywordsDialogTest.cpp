@@ -61,10 +61,9 @@ TEST(KeywordsDialog, FetchedPageFillsTheListAndOkGivesTheTickedWords) {
     QTest::keyClick(url, Qt::Key_Return);
     ASSERT_TRUE(waitFor([&] { return finished.count() == 1; }));
     EXPECT_EQ(server.requests("/home"), 1);
-    EXPECT_EQ(rowsOf(*list), (QStringList{QStringLiteral("[x] Editor|003"),
-                                          QStringLiteral("[x] fast|003"),
-                                          QStringLiteral("[ ] notes|002"),
-                                          QStringLiteral("[ ] tiny|001")}));
+    EXPECT_EQ(rowsOf(*list),
+              (QStringList{QStringLiteral("[x] Editor|003"), QStringLiteral("[x] fast|003"),
+                           QStringLiteral("[ ] notes|002"), QStringLiteral("[ ] tiny|001")}));
     EXPECT_EQ(keywords->text(), QStringLiteral("Editor, fast"));
     EXPECT_EQ(child<QStatusBar>(dialog, "StatusBar1")->currentMessage(),
               QStringLiteral("Disconnected, Done ..."));
@@ -212,8 +211,7 @@ TEST(KeywordsDialog, CancelDuringASlowTransferStopsItAtOnce) {
 
 TEST(KeywordsDialog, ControlsAreNamedCaptionedAndReachable) {
     HttpTransfer http;
-    KeywordSuggester suggester(QStringLiteral("Widget"), QStringLiteral("http://x.example/"),
-                               http);
+    KeywordSuggester suggester(QStringLiteral("Widget"), QStringLiteral("http://x.example/"), http);
     KeywordsDialog dialog(suggester);
     dialog.show();
     EXPECT_EQ(dialog.objectName(), QStringLiteral("frmKeywords"));
@@ -253,9 +251,9 @@ TEST(KeywordsDialog, ControlsAreNamedCaptionedAndReachable) {
     auto* list = child<QTreeWidget>(dialog, "ListView1");
     EXPECT_EQ(list->headerItem()->text(0), QStringLiteral("Keywords"));
     EXPECT_EQ(list->headerItem()->text(1), QStringLiteral("#"));
-    EXPECT_EQ(child<QLabel>(dialog, "lblInfo")->text(),
-              KeywordSuggester::instructions().replace(QStringLiteral("\r\n"),
-                                                        QStringLiteral("\n")));
+    EXPECT_EQ(
+        child<QLabel>(dialog, "lblInfo")->text(),
+        KeywordSuggester::instructions().replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
 
     auto* file = child<QMenu>(dialog, "mnuFile");
     ASSERT_TRUE(file);

@@ -9,13 +9,13 @@
 #include "submission/SiteList.h"
 
 #include <QDir>
-#include <algorithm>
 #include <QFile>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSignalSpy>
 #include <QStatusBar>
+#include <algorithm>
 
 using namespace brevaro;
 using namespace brevaro::test;
@@ -61,15 +61,16 @@ int rowNamed(const QTreeWidget& list, const QString& name) {
 TEST(SiteListDialog, FirstShowDownloadsTheListSortsAndOpensTheDoubleClickedSite) {
     LocalMakerServer server;
     QByteArray published;
-    const char* names[] = {"Alpha Downloads", "Delta Soft",   "Echo Files",  "Foxtrot Apps",
-                           "Golf Games",      "Hotel Tools",  "India Utils", "Juliet Zone",
+    const char* names[] = {"Alpha Downloads", "Delta Soft",   "Echo Files",   "Foxtrot Apps",
+                           "Golf Games",      "Hotel Tools",  "India Utils",  "Juliet Zone",
                            "Kilo Store",      "Lima Library", "  Beta Files "};
     for (const char* name : names) {
         const QString n = QString::fromLatin1(name);
         const QString host = n.trimmed().section(u' ', 0, 0).toLower();
-        published += siteLine(n, n.startsWith(u' ') ? QStringLiteral(" http://beta.example/add ")
-                                                    : QStringLiteral("http://%1.example/").arg(host)) +
-                     "\n";
+        published +=
+            siteLine(n, n.startsWith(u' ') ? QStringLiteral(" http://beta.example/add ")
+                                           : QStringLiteral("http://%1.example/").arg(host)) +
+            "\n";
     }
     server.publish(published);
     TempHome t;
@@ -77,7 +78,9 @@ TEST(SiteListDialog, FirstShowDownloadsTheListSortsAndOpensTheDoubleClickedSite)
     HttpTransfer http;
     SiteList list(file, http);
     int refreshed = 0;
-    list.afterDownload = [&] { ++refreshed; };
+    list.afterDownload = [&] {
+        ++refreshed;
+    };
     SiteListDialog dialog(list);
     EXPECT_TRUE(dialog.isModal());
     EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Shareware Directory Listing"));
@@ -92,7 +95,8 @@ TEST(SiteListDialog, FirstShowDownloadsTheListSortsAndOpensTheDoubleClickedSite)
     ASSERT_TRUE(view);
     EXPECT_EQ(view->toolTip(), QStringLiteral("Doubleclick to Open"));
     EXPECT_EQ(column(*view, 0).join(u','), QStringLiteral("1,2,3,4,5,6,7,8,9,10,11,12"));
-    EXPECT_EQ(view->topLevelItem(0)->text(1), QStringLiteral("Quorin Shareware Download Directory"));
+    EXPECT_EQ(view->topLevelItem(0)->text(1),
+              QStringLiteral("Quorin Shareware Download Directory"));
     EXPECT_EQ(view->topLevelItem(0)->text(2), server.url("/unsignedpadfile.php"));
     EXPECT_EQ(view->topLevelItem(1)->text(1), QStringLiteral("Alpha Downloads"));
     EXPECT_EQ(view->topLevelItem(1)->text(2), QStringLiteral("http://alpha.example/"));
@@ -148,10 +152,10 @@ TEST(SiteListDialog, FirstShowDownloadsTheListSortsAndOpensTheDoubleClickedSite)
 // The main window's banner refresh runs through SiteList::afterDownload, as it is wired here.
 TEST(SiteListDialog, MenuDownloadShowsProgressAndRefreshesOldBannerData) {
     LocalMakerServer server;
-    server.publish(siteLine(QStringLiteral("Alpha Downloads"), QStringLiteral("http://a/")) +
-                   "\n" + siteLine(QStringLiteral("mirror of 127.0.0.1"), QStringLiteral("x")) +
-                   "\n" + siteLine(QStringLiteral("Beta Files"), QStringLiteral("http://b/")) +
-                   "\n" + siteLine(QStringLiteral("Gamma"), QStringLiteral("http://c/")) + "\n");
+    server.publish(siteLine(QStringLiteral("Alpha Downloads"), QStringLiteral("http://a/")) + "\n" +
+                   siteLine(QStringLiteral("mirror of 127.0.0.1"), QStringLiteral("x")) + "\n" +
+                   siteLine(QStringLiteral("Beta Files"), QStringLiteral("http://b/")) + "\n" +
+                   siteLine(QStringLiteral("Gamma"), QStringLiteral("http://c/")) + "\n");
     LocalHttpServer::Response data;
     data.contentType = "text/plain";
     data.body = "# no banners this week\n";
@@ -225,8 +229,9 @@ TEST(SiteListDialog, MenuDownloadShowsProgressAndRefreshesOldBannerData) {
 
     EXPECT_EQ(server.requests(kListPath), 1);
     EXPECT_EQ(column(*view, 0).join(u','), QStringLiteral("1,2,3,4"));
-    EXPECT_EQ(column(*view, 1), (QStringList{SiteList::makerSiteName(), QStringLiteral("Alpha Downloads"),
-                                             QStringLiteral("Beta Files"), QStringLiteral("Gamma")}));
+    EXPECT_EQ(column(*view, 1),
+              (QStringList{SiteList::makerSiteName(), QStringLiteral("Alpha Downloads"),
+                           QStringLiteral("Beta Files"), QStringLiteral("Gamma")}));
     EXPECT_EQ(child<QLabel>(dialog, "lblNo")->text(), QStringLiteral(" 4"));
     // The banner data was missing, so it was fetched; now fresh, it is not fetched again.
     EXPECT_EQ(server.requests("/pad/share/data.txt"), 1);
