@@ -175,6 +175,9 @@ void SiteListDialog::reject() {
 }
 
 void SiteListDialog::fillList() {
+    // A freshly loaded list is in its own order, which no column header stands for.
+    if (!m_sorting)
+        m_view->header()->setSortIndicator(-1, Qt::AscendingOrder);
     m_view->clear();
     QList<QTreeWidgetItem*> items;
     for (const SiteList::Site& s : m_list.sites()) {
@@ -190,7 +193,9 @@ void SiteListDialog::fillList() {
 void SiteListDialog::sortBy(int column) {
     m_view->header()->setSortIndicator(column,
                                        column == 1 ? Qt::DescendingOrder : Qt::AscendingOrder);
+    m_sorting = true;
     m_list.sortByColumn(column);
+    m_sorting = false;
 }
 
 void SiteListDialog::showModel() {

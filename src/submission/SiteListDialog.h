@@ -65,6 +65,7 @@ private:
     QString m_siteUrl;
     bool m_loaded = false;
     bool m_downloading = false;
+    bool m_sorting = false;
 };
 
 } // namespace brevaro

@@ -104,6 +104,7 @@ TEST(SiteListDialog, FirstShowDownloadsTheListSortsAndOpensTheDoubleClickedSite)
     EXPECT_EQ(child<QStatusBar>(dialog, "StatusBar1")->currentMessage(),
               QStringLiteral("Disconnected, Download Done ..."));
     EXPECT_EQ(dialog.cursor().shape(), Qt::ArrowCursor);
+    EXPECT_EQ(view->header()->sortIndicatorSection(), -1);
 
     // Names sort descending, numbers and addresses ascending, all as text.
     clickHeader(*view, 1);
@@ -185,6 +186,8 @@ TEST(SiteListDialog, MenuDownloadShowsProgressAndRefreshesOldBannerData) {
     EXPECT_EQ(column(*view, 1),
               (QStringList{SiteList::makerSiteName(), QStringLiteral("Old Site")}));
 
+    clickHeader(*view, 1);
+    EXPECT_EQ(view->header()->sortIndicatorSection(), 1);
     auto* update = child<QAction>(dialog, "mnuUpdate");
     auto* exit = child<QAction>(dialog, "mnuExit");
     ASSERT_TRUE(update && exit);
@@ -228,6 +231,7 @@ TEST(SiteListDialog, MenuDownloadShowsProgressAndRefreshesOldBannerData) {
     EXPECT_TRUE(update->isEnabled());
 
     EXPECT_EQ(server.requests(kListPath), 1);
+    EXPECT_EQ(view->header()->sortIndicatorSection(), -1);
     EXPECT_EQ(column(*view, 0).join(u','), QStringLiteral("1,2,3,4"));
     EXPECT_EQ(column(*view, 1),
               (QStringList{SiteList::makerSiteName(), QStringLiteral("Alpha Downloads"),
