@@ -35,11 +35,13 @@ const char* const kColumns[] = {"Keywords", "#"};
 struct LabelSpec {
     const char* name;
     const char* caption;
+    const char* controlName; // the accessible name of the control
 };
 const LabelSpec kLabels[] = {
-    {"Label1", "Application Home&page:"},
-    {"Label2", "&Words Found on Application Homepage above:"},
-    {"Label3", "Suggested/Selected &Keywords, up to max 128 character string:"},
+    {"Label1", "Application Home&page:", "Application homepage"},
+    {"Label2", "&Words Found on Application Homepage above:", "Words found on the homepage"},
+    {"Label3",
+     "Suggested/Selected &Keywords, up to max 128 character string:", "Suggested keywords"},
 };
 
 QString plain(const char* caption) {
@@ -140,7 +142,6 @@ void KeywordsDialog::buildCommands() {
         if (!c.caption)
             continue;
         connect(action, &QAction::triggered, this, c.run);
-        m_commands << action;
         if (!c.button)
             continue;
         auto* button = new QPushButton(action->text(), this);
@@ -167,7 +168,7 @@ void KeywordsDialog::buildLayout() {
         labels[i] = new QLabel(QString::fromLatin1(kLabels[i].caption), this);
         labels[i]->setObjectName(QString::fromLatin1(kLabels[i].name));
         labels[i]->setBuddy(buddies[i]);
-        buddies[i]->setAccessibleName(plain(kLabels[i].caption).chopped(1).section(u',', 0, 0));
+        buddies[i]->setAccessibleName(QString::fromLatin1(kLabels[i].controlName));
     }
     auto button = [this](const char* name) {
         return findChild<QPushButton*>(QString::fromLatin1(name));

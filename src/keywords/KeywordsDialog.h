@@ -55,7 +55,6 @@ private:
     QLabel* m_info;
     QStatusBar* m_status;
     TransferProgressWidget* m_progress;
-    QList<QAction*> m_commands;
     bool m_checking = false;
 };
 
