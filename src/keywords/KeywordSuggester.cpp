@@ -12,10 +12,12 @@ KeywordSuggester::KeywordSuggester(HttpTransfer& http, QObject* parent)
             [this] { simpleText(QStringLiteral("Connected, Wait ...")); });
     connect(&m_http, &HttpTransfer::transferStarted, this,
             [this] { simpleText(QStringLiteral("Transfer Started ...")); });
-    connect(&m_http, &HttpTransfer::dataReceived, this, [this](int, qint64, const QString& chunk) {
-        simpleText(chunk.left(200));
-        m_buffer += chunk;
-    });
+    connect(&m_http, &HttpTransfer::dataReceived, this,
+            [this](int, qint64 bytes, const QString& chunk) {
+                bytesReceived += bytes;
+                m_buffer += chunk;
+                simpleText(chunk.left(200));
+            });
     connect(&m_http, &HttpTransfer::transferEnded, this,
             [this] { simpleText(QStringLiteral("Transfer Ended ...")); });
     connect(&m_http, &HttpTransfer::disconnected, this,
@@ -44,9 +46,13 @@ void KeywordSuggester::simpleText(const QString& text) {
 void KeywordSuggester::checkHomepage() {
     m_list.clear();
     m_buffer.clear();
+    m_cancelled = false;
+    bytesReceived = 0;
     m_http.reset();
     m_http.setUrl(url);
     m_http.fetch();
+    if (m_cancelled)
+        return;
     count();
 }
 
@@ -74,6 +80,7 @@ std::optional<QString> KeywordSuggester::accept() const {
 }
 
 void KeywordSuggester::cancel() {
+    m_cancelled = true;
     m_http.stop();
 }
 

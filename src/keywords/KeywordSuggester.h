@@ -24,6 +24,8 @@ public:
     QString url;
     QString keywords;
     QString status;
+    // Bytes received by the running or last fetch, for a progress display.
+    qint64 bytesReceived = 0;
     static QString instructions();
 
     KeywordList& list() { return m_list; }
@@ -38,7 +40,7 @@ public:
     std::function<void()> pump;
     // OK: the text for the keywords box, or nothing when it is blank.
     std::optional<QString> accept() const;
-    // Cancel: stops a running fetch.
+    // Cancel: stops a running fetch; what it received is then not counted.
     void cancel();
 
 signals:
@@ -51,6 +53,7 @@ private:
     HttpTransfer& m_http;
     KeywordList m_list;
     QString m_buffer;
+    bool m_cancelled = false;
 };
 
 } // namespace brevaro

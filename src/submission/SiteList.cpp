@@ -59,11 +59,13 @@ void SiteList::LoadList() {
         m_sites.push_back({QString::number(m_sites.size() + 1), name, url});
     }
     lblNo = u' ' + QString::number(m_sites.size());
+    emit listChanged();
     emit changed();
 }
 
 void SiteList::Download(const QString& url) {
     m_buffer.clear();
+    bytesReceived = 0;
     QMetaObject::Connection c[5] = {
         connect(&m_http, &HttpTransfer::connected, this,
                 [this] { simpleText(QStringLiteral("Connected, Wait ...")); }),
@@ -73,9 +75,10 @@ void SiteList::Download(const QString& url) {
                     m_buffer.clear();
                 }),
         connect(&m_http, &HttpTransfer::dataReceived, this,
-                [this](int, qint64, const QString& chunk) {
-                    simpleText(chunk.left(200));
+                [this](int, qint64 bytes, const QString& chunk) {
+                    bytesReceived += bytes;
                     m_buffer += QString(chunk).replace(u'\n', QStringLiteral("\r\n"));
+                    simpleText(chunk.left(200));
                 }),
         connect(&m_http, &HttpTransfer::transferEnded, this,
                 [this] {
@@ -112,6 +115,7 @@ void SiteList::sortByColumn(int column) {
     std::stable_sort(m_sites.begin(), m_sites.end(), [&](const Site& a, const Site& b) {
         return column == 1 ? key(a) > key(b) : key(a) < key(b);
     });
+    emit listChanged();
     emit changed();
 }
 

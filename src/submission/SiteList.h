@@ -31,6 +31,8 @@ public:
     const std::vector<Site>& sites() const { return m_sites; }
     QString lblNo;
     QString status;
+    // Bytes received by the running or last download, for a progress display.
+    qint64 bytesReceived = 0;
 
     // Fills the list from the list file; a missing file leaves the list as it was.
     void LoadList();
@@ -44,7 +46,10 @@ public:
     void sortByColumn(int column);
 
 signals:
+    // Any change, the status text included.
     void changed();
+    // The entries or their order changed.
+    void listChanged();
 
 private:
     void simpleText(const QString& text);

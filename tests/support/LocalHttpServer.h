@@ -14,9 +14,10 @@ public:
         int status = 200;
         QByteArray contentType = "text/html";
         QByteArray body;
-        QByteArray location;  // a redirect target
-        bool stall = false;   // accept the request and never answer
-        qint64 hugeBytes = 0; // stream this many bytes of filler instead of body
+        QByteArray location;   // a redirect target
+        bool stall = false;    // accept the request and never answer
+        qint64 hugeBytes = 0;  // stream this many bytes of filler instead of body
+        bool holdOpen = false; // send the body, announce more and keep the connection open
     };
 
     LocalHttpServer() {
@@ -33,12 +34,17 @@ public:
                QString::fromLatin1(path);
     }
     int requests() const { return m_requests; }
+    int requests(const QByteArray& path) const { return m_hits.value(path); }
     qint64 bytesSent() const { return m_sent; }
+    // Connections not yet closed by either side.
+    int openConnections() const { return m_open; }
 
 private:
     void serve(QTcpSocket* s) {
         auto* request = new QByteArray;
-        connect(s, &QTcpSocket::disconnected, s, [s, request] {
+        ++m_open;
+        connect(s, &QTcpSocket::disconnected, s, [this, s, request] {
+            --m_open;
             delete request;
             s->deleteLater();
         });
@@ -49,6 +55,7 @@ private:
             const QByteArray path = request->split(' ').value(1);
             *request = "done";
             ++m_requests;
+            ++m_hits[path];
             answer(s, m_routes.value(path, Response{404, "text/plain", "not here", {}, false, 0}));
         });
     }
@@ -56,7 +63,8 @@ private:
     void answer(QTcpSocket* s, const Response& r) {
         if (r.stall)
             return;
-        const qint64 length = r.hugeBytes > 0 ? r.hugeBytes : r.body.size();
+        const qint64 length =
+            r.hugeBytes > 0 ? r.hugeBytes : r.body.size() + (r.holdOpen ? 1000000 : 0);
         QByteArray head =
             "HTTP/1.1 " + QByteArray::number(r.status) + (r.status == 200 ? " OK" : " Other") +
             "\r\nContent-Type: " + r.contentType +
@@ -67,7 +75,8 @@ private:
         if (r.hugeBytes == 0) {
             s->write(r.body);
             m_sent += r.body.size();
-            s->disconnectFromHost();
+            if (!r.holdOpen)
+                s->disconnectFromHost();
             return;
         }
         // Streams the filler as the client reads, without holding it in memory.
@@ -88,7 +97,9 @@ private:
 
     QTcpServer m_server;
     QHash<QByteArray, Response> m_routes;
+    QHash<QByteArray, int> m_hits;
     int m_requests = 0;
+    int m_open = 0;
     qint64 m_sent = 0;
 };
 
