@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace brevaro {
+
+class CompanyRecord;
+class ProgramRecord;
+class Prompts;
+
+// Opens the submission browser modally over parent, loading the web plugin on first use.
+// homeFolder is the application home. False, with a plain message in *error, when the plugin
+// cannot be loaded; the browser is then not shown.
+bool openSubmissionBrowser(QWidget* parent, const CompanyRecord& company,
+                           const ProgramRecord& program, const QString& homeFolder,
+                           Prompts& prompts, QString* error);
+
+// Where the plugin is looked for: $BREVARO_PLUGIN_DIR when set, else the plugin folder of the
+// install layout relative to the executable's folder (<prefix>/bin and
+// <prefix>/lib/<multiarch>/brevaro; the build tree has the same layout).
+QString submissionPluginPath();
+
+} // namespace brevaro
