@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMetaMethod>
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
@@ -268,6 +269,9 @@ void SubmissionBrowser::showSession() {
     const bool on = m_session.controlsEnabled;
     for (int i = 1; i <= 3; ++i)
         m_cmdRefresh[static_cast<std::size_t>(i)]->setEnabled(on);
+    // "Directories" needs the download-site list window connected to directoriesRequested.
+    m_cmdRefresh[2]->setEnabled(
+        on && isSignalConnected(QMetaMethod::fromSignal(&SubmissionBrowser::directoriesRequested)));
     for (QWidget* w : m_product)
         w->setEnabled(on);
     for (QWidget* w : m_copy)

@@ -34,6 +34,10 @@ public:
     SubmissionSession& session() { return m_session; }
     const SiteList& siteList() const { return m_sites; }
     QWebEngineView* iex() const { return m_iex; }
+    // Runs after each download of the site list (the main window's banner data refresh).
+    void setAfterSiteListDownload(std::function<void()> hook) {
+        m_sites.afterDownload = std::move(hook);
+    }
 
 public slots:
     // The download-site list's double-click: the directory's name and address become the site,

@@ -18,7 +18,8 @@ QString submissionPluginPath() {
 
 bool openSubmissionBrowser(QWidget* parent, const CompanyRecord& company,
                            const ProgramRecord& program, const QString& homeFolder,
-                           Prompts& prompts, QString* error) {
+                           Prompts& prompts, QString* error,
+                           const std::function<void()>& afterSiteListDownload) {
     // Loaded once and kept: the web engine is not made to unload.
     static QPluginLoader* loader = nullptr;
     const QString path = submissionPluginPath();
@@ -33,7 +34,7 @@ bool openSubmissionBrowser(QWidget* parent, const CompanyRecord& company,
         loader = nullptr;
         return false;
     }
-    plugin->openBrowser(parent, company, program, homeFolder, prompts);
+    plugin->openBrowser(parent, company, program, homeFolder, prompts, afterSiteListDownload);
     return true;
 }
 

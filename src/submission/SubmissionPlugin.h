@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <functional>
 
 class QWidget;
 
@@ -14,13 +15,15 @@ class Prompts;
 // What the web plugin offers the program: the submission browser, opened modally over parent
 // for the current company and program. homeFolder is the application home (the site list
 // file and the pad/ folder). The plugin is loaded only when this is first needed, so that
-// the program starts without the web engine.
+// the program starts without the web engine. afterSiteListDownload, when set, runs after each
+// download of the site list (the banner data refresh).
 class SubmissionPlugin {
 public:
     virtual ~SubmissionPlugin() = default;
     virtual void openBrowser(QWidget* parent, const CompanyRecord& company,
                              const ProgramRecord& program, const QString& homeFolder,
-                             Prompts& prompts) = 0;
+                             Prompts& prompts,
+                             const std::function<void()>& afterSiteListDownload) = 0;
 };
 
 } // namespace brevaro

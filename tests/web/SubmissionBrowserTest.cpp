@@ -219,6 +219,14 @@ TEST_F(SubmissionBrowserTest, InfoListLabelAndCopyButtonsDriveTheModel) {
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return mainCat->palette().color(QPalette::Base) != QColor(Qt::black); }, 2000));
     browser.findChild<QPushButton*>(QStringLiteral("cmdRefresh_3"))->click();
+    // "Directories" asks for the download-site list, which answers through openChosenSite.
+    auto* directories = browser.findChild<QPushButton*>(QStringLiteral("cmdRefresh_2"));
+    EXPECT_FALSE(directories->isEnabled()) << "no site list window is connected";
+    QSignalSpy asked(&browser, &SubmissionBrowser::directoriesRequested);
+    browser.session().EnableControls();
+    ASSERT_TRUE(directories->isEnabled());
+    directories->click();
+    EXPECT_EQ(asked.count(), 1);
     EXPECT_EQ(m_prompts.opened, QStringList{QStringLiteral("http://acme.example/widget.xml")});
 }
 
@@ -248,8 +256,11 @@ TEST_F(SubmissionBrowserTest, ThePluginIsFoundBesideTheProgramAndOpensTheBrowser
     });
     closer.start(50);
     error.clear();
-    EXPECT_TRUE(
-        openSubmissionBrowser(nullptr, m_company, m_program, m_home.path(), m_prompts, &error))
+    int downloads = 0;
+    EXPECT_TRUE(openSubmissionBrowser(nullptr, m_company, m_program, m_home.path(), m_prompts,
+                                      &error, [&] { ++downloads; }))
         << error.toStdString();
     EXPECT_EQ(title, QStringLiteral("Software Submission - [Quorin]"));
+    EXPECT_EQ(downloads, 1) << "the site list is fetched once on opening";
+    EXPECT_TRUE(QFile::exists(m_home.home().siteListFile()));
 }

@@ -12,8 +12,10 @@ class SubmissionWebPlugin : public QObject, public SubmissionPlugin {
     Q_INTERFACES(brevaro::SubmissionPlugin)
 public:
     void openBrowser(QWidget* parent, const CompanyRecord& company, const ProgramRecord& program,
-                     const QString& homeFolder, Prompts& prompts) override {
+                     const QString& homeFolder, Prompts& prompts,
+                     const std::function<void()>& afterSiteListDownload) override {
         SubmissionBrowser browser(company, program, homeFolder, prompts, parent);
+        browser.setAfterSiteListDownload(afterSiteListDownload);
         browser.exec();
     }
 };
