@@ -12,11 +12,7 @@ install(TARGETS brevaro brevaro-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 # The WebEngine part is a plugin the program loads on demand from
 # <prefix>/lib/<multiarch>/brevaro, i.e. ../lib/<multiarch>/brevaro relative to the executable,
 # for any prefix (GNUInstallDirs drops the multiarch part outside /usr, so it is not used here).
-if(CMAKE_LIBRARY_ARCHITECTURE)
-    set(BREVARO_PLUGIN_INSTALL_DIR lib/${CMAKE_LIBRARY_ARCHITECTURE}/brevaro)
-else()
-    set(BREVARO_PLUGIN_INSTALL_DIR lib/brevaro)
-endif()
+# BREVARO_PLUGIN_INSTALL_DIR is set by src/CMakeLists.txt, which builds the plugin there too.
 if(TARGET brevaro_webplugin)
     install(TARGETS brevaro_webplugin LIBRARY DESTINATION ${BREVARO_PLUGIN_INSTALL_DIR})
 endif()

@@ -1,0 +1,266 @@
+#include "submission/SubmissionBrowser.h"
+#include "FullRecords.h"
+#include "LocalHttpServer.h"
+#include "ScriptedPrompts.h"
+#include "TestSupport.h"
+#include "pad/CreatePad.h"
+#include "submission/SiteCipher.h"
+#include "submission/SubmissionLoaderWidget.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QWebEnginePage>
+#include <QWebEngineView>
+#include <gtest/gtest.h>
+
+using namespace brevaro;
+using namespace brevaro::test;
+
+namespace {
+
+constexpr int kPageTimeout = 60000;
+
+// A submission form: two inputs named padfile of type text (names differ in case), an upload
+// field, the log-in inputs and a text input named like the password (wrong type). Its own
+// scripts record the events they hear.
+const QByteArray kFormPage = R"(<html><body><form>
+<input type="text" name="PADFILE" id="first">
+<input type="text" name="padfile" id="second">
+<input type="file" name="PadFile" id="upload">
+<input name="User" id="user">
+<input type="text" name="Password" id="plain">
+<input type="password" name="password" id="secret">
+</form><script>
+var heard = [];
+document.addEventListener('input', function (e) { heard.push('input:' + e.target.id); });
+document.addEventListener('change', function (e) { heard.push('change:' + e.target.id); });
+</script></body></html>)";
+
+const QByteArray kUploadOnlyPage = R"(<html><body><form>
+<input type="file" name="padfile" id="upload"></form></body></html>)";
+
+QVariant evaluate(QWebEnginePage* page, const QString& script) {
+    QVariant result;
+    bool answered = false;
+    QEventLoop loop;
+    page->runJavaScript(script, [&](const QVariant& v) {
+        result = v;
+        answered = true;
+        loop.quit();
+    });
+    QTimer::singleShot(kPageTimeout, &loop, &QEventLoop::quit);
+    if (!answered)
+        loop.exec();
+    EXPECT_TRUE(answered) << script.toStdString();
+    return result;
+}
+
+QString value(QWebEnginePage* page, const char* id) {
+    return evaluate(page,
+                    QStringLiteral("document.getElementById('%1').value").arg(QLatin1String(id)))
+        .toString();
+}
+
+class SubmissionBrowserTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        m_oldServer = qgetenv("BREVARO_SERVER");
+        qputenv("BREVARO_SERVER", m_server.url("").toUtf8());
+        const QString list = encipherField(QStringLiteral("Second Site"), siteListKey()) + u'|' +
+                             encipherField(m_server.url("/second"), siteListKey()) +
+                             QStringLiteral("\n");
+        m_server.route("/pad/SharewareSites/sharewaresites_cryptated.txt",
+                       {200, "text/plain", list.toLatin1(), {}, false, 0});
+        m_server.route("/unsignedpadfile.php", {200, "text/html", kFormPage, {}, false, 0});
+        m_server.route("/second", {200, "text/html", kUploadOnlyPage, {}, false, 0});
+        m_company.setText(CompanyField::CompanyName, u"Acme Tools");
+        m_program.setText(ProgramField::ProgramName, u"Widget Pro");
+        m_program.setText(ProgramField::ApplicationXMLFileURL, u"http://acme.example/widget.xml");
+        m_prompts.clipboard = QStringLiteral("held before");
+    }
+    void TearDown() override { qputenv("BREVARO_SERVER", m_oldServer); }
+
+    // Writes the PAD file as Create PAD does, in the company's folder.
+    QString createPad() {
+        const QString folder =
+            QDir(m_home.home().padFolder()).filePath(QStringLiteral("Acme Tools"));
+        QDir().mkpath(folder);
+        const QString path = folder + QStringLiteral("/widget.xml");
+        QString error;
+        EXPECT_TRUE(writePadFiles(m_company, m_program, QString(), path, &error));
+        return path;
+    }
+
+    LocalHttpServer m_server;
+    TempHome m_home;
+    CompanyRecord m_company = fullCompany();
+    ProgramRecord m_program = fullProgram();
+    ScriptedPrompts m_prompts;
+    QByteArray m_oldServer;
+};
+
+} // namespace
+
+TEST_F(SubmissionBrowserTest, OpensTheMakersPageAndFillsItsKnownInputs) {
+    const QString padPath = createPad();
+    SubmissionBrowser browser(m_company, m_program, m_home.path(), m_prompts);
+    QSignalSpy filled(&browser, &SubmissionBrowser::knownFieldsFilled);
+    auto* user = browser.findChild<QLineEdit*>(QStringLiteral("txtUser"));
+    auto* password = browser.findChild<QLineEdit*>(QStringLiteral("txtPassword"));
+    ASSERT_TRUE(user && password);
+    QTest::keyClicks(user, QStringLiteral("me@acme.example"));
+    QTest::keyClicks(password, QStringLiteral("s3cret"));
+    EXPECT_EQ(password->echoMode(), QLineEdit::Password);
+    EXPECT_EQ(browser.windowTitle(), QStringLiteral("Software Submission - [Quorin]"));
+    EXPECT_FALSE(browser.findChild<QTreeWidget*>(QStringLiteral("lstInfo"))->isEnabled());
+
+    browser.show();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return filled.count() == 1; }, kPageTimeout));
+    // The site list was fetched on opening: the maker's entry and the one listed.
+    ASSERT_EQ(browser.siteList().sites().size(), 2u);
+    EXPECT_EQ(browser.siteList().sites()[1].name, QStringLiteral("Second Site"));
+    EXPECT_EQ(browser.iex()->url().toString(), m_server.url("/unsignedpadfile.php"));
+    EXPECT_TRUE(browser.findChild<QTreeWidget*>(QStringLiteral("lstInfo"))->isEnabled());
+
+    QWebEnginePage* page = browser.iex()->page();
+    EXPECT_EQ(value(page, "first"), QStringLiteral("http://acme.example/widget.xml"));
+    EXPECT_EQ(value(page, "second"), QString()) << "only the first input of a name is filled";
+    EXPECT_EQ(value(page, "user"), QStringLiteral("me@acme.example"));
+    EXPECT_EQ(value(page, "secret"), QStringLiteral("s3cret"));
+    EXPECT_EQ(value(page, "plain"), QString()) << "the type must match too";
+    // The upload field holds the PAD file itself, bytes and all.
+    EXPECT_EQ(evaluate(page, QStringLiteral("document.getElementById('upload').files.length")),
+              QVariant(1));
+    EXPECT_EQ(evaluate(page, QStringLiteral("document.getElementById('upload').files[0].name"))
+                  .toString(),
+              QStringLiteral("widget.xml"));
+    evaluate(page, QStringLiteral("document.getElementById('upload').files[0].text()"
+                                  ".then(function (t) { window.attached = t; }); 0"));
+    QString attached;
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            attached = evaluate(page, QStringLiteral("window.attached || ''")).toString();
+            return !attached.isEmpty();
+        },
+        kPageTimeout));
+    EXPECT_EQ(attached.toUtf8(), readBytes(padPath));
+    // The upload is answered last; otherwise the page hears the events in document order.
+    EXPECT_EQ(evaluate(page, QStringLiteral("heard.join(' ')")).toString(),
+              QStringLiteral("input:first change:first input:user change:user input:secret "
+                             "change:secret input:upload change:upload"));
+    EXPECT_EQ(browser.findChild<QStatusBar*>(QStringLiteral("StatusBar1"))->currentMessage(),
+              QStringLiteral("Attached PAD file: ") + QDir::toNativeSeparators(padPath));
+    EXPECT_EQ(m_prompts.clipboard, QStringLiteral("held before"));
+
+    // Saving a screenshot for review when asked to.
+    const QString shots = qEnvironmentVariable("BREVARO_SHOTS");
+    if (!shots.isEmpty()) {
+        QDir().mkpath(shots);
+        browser.grab().save(shots + QStringLiteral("/frmBrowser.png"));
+    }
+
+    // A directory chosen from the site list: its name in the caption, its page loaded; without
+    // a created PAD file the status says so.
+    QFile::remove(padPath);
+    browser.openChosenSite(m_server.url("/second"));
+    EXPECT_EQ(browser.windowTitle(), QStringLiteral("Software Submission - [Second Site]"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return filled.count() == 2; }, kPageTimeout));
+    EXPECT_EQ(browser.findChild<QLineEdit*>(QStringLiteral("txtURL"))->text(),
+              m_server.url("/second"));
+    EXPECT_EQ(browser.findChild<QStatusBar*>(QStringLiteral("StatusBar1"))->currentMessage(),
+              QStringLiteral("No PAD file has been created yet for Widget Pro: use Create PAD "
+                             "first"));
+    EXPECT_EQ(evaluate(browser.iex()->page(),
+                       QStringLiteral("document.getElementById('upload').files.length")),
+              QVariant(0));
+}
+
+TEST_F(SubmissionBrowserTest, InfoListLabelAndCopyButtonsDriveTheModel) {
+    SubmissionBrowser browser(m_company, m_program, m_home.path(), m_prompts);
+    auto* list = browser.findChild<QTreeWidget*>(QStringLiteral("lstInfo"));
+    auto* label = browser.findChild<QLabel*>(QStringLiteral("lblInfo"));
+    ASSERT_TRUE(list && label);
+    ASSERT_EQ(list->topLevelItemCount(), 96);
+    EXPECT_TRUE(list->isColumnHidden(0));
+    EXPECT_EQ(list->headerItem()->text(1), QStringLiteral("PAD Info - Doubleclick to Copy/Paste"));
+    browser.session().EnableControls();
+    browser.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&browser));
+
+    QTreeWidgetItem* heading = list->topLevelItem(0);
+    emit list->itemDoubleClicked(heading, 1);
+    EXPECT_EQ(label->text(), QStringLiteral("Select Valid Field"));
+    EXPECT_EQ(label->palette().color(QPalette::WindowText), QColor(Qt::red));
+    EXPECT_TRUE(label->font().bold());
+    EXPECT_EQ(m_prompts.beeps, 1);
+    emit list->itemDoubleClicked(list->topLevelItem(1), 1);
+    EXPECT_EQ(m_prompts.clipboard, QStringLiteral("Acme Tools"));
+    EXPECT_EQ(label->text(), QStringLiteral("Acme Tools"));
+    EXPECT_FALSE(label->font().bold());
+    EXPECT_NE(label->palette().color(QPalette::WindowText), QColor(Qt::red));
+
+    // Copy button 2 copies the main category; an edited box is copied as it stands.
+    auto* mainCat = browser.findChild<QLineEdit*>(QStringLiteral("txtMainCat"));
+    mainCat->clear();
+    QTest::keyClicks(mainCat, QStringLiteral("Utilities"));
+    QTest::mouseClick(browser.findChild<QWidget*>(QStringLiteral("cmdCopyWebInfo2ClipBoard_2")),
+                      Qt::LeftButton);
+    EXPECT_EQ(m_prompts.clipboard, QStringLiteral("Utilities"));
+    EXPECT_EQ(mainCat->palette().color(QPalette::Base), QColor(Qt::black)) << "the copy flash";
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return mainCat->palette().color(QPalette::Base) != QColor(Qt::black); }, 2000));
+    browser.findChild<QPushButton*>(QStringLiteral("cmdRefresh_3"))->click();
+    // "Directories" asks for the download-site list, which answers through openChosenSite.
+    auto* directories = browser.findChild<QPushButton*>(QStringLiteral("cmdRefresh_2"));
+    EXPECT_FALSE(directories->isEnabled()) << "no site list window is connected";
+    QSignalSpy asked(&browser, &SubmissionBrowser::directoriesRequested);
+    browser.session().EnableControls();
+    ASSERT_TRUE(directories->isEnabled());
+    directories->click();
+    EXPECT_EQ(asked.count(), 1);
+    EXPECT_EQ(m_prompts.opened, QStringList{QStringLiteral("http://acme.example/widget.xml")});
+}
+
+TEST_F(SubmissionBrowserTest, ThePluginIsFoundBesideTheProgramAndOpensTheBrowser) {
+    // Tests run from bin/ like the program, so the plugin is found where the program finds it.
+    EXPECT_TRUE(QFile::exists(submissionPluginPath())) << submissionPluginPath().toStdString();
+
+    qputenv("BREVARO_PLUGIN_DIR", QDir::tempPath().toUtf8() + "/no-such-folder");
+    QString error;
+    EXPECT_FALSE(
+        openSubmissionBrowser(nullptr, m_company, m_program, m_home.path(), m_prompts, &error));
+    EXPECT_TRUE(error.contains(QStringLiteral("no-such-folder"))) << error.toStdString();
+    qunsetenv("BREVARO_PLUGIN_DIR");
+
+    // The modal browser is found and closed once its first page has loaded.
+    QString title;
+    QTimer closer;
+    QObject::connect(&closer, &QTimer::timeout, [&] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (!modal || modal->objectName() != u"frmBrowser")
+            return;
+        auto* list = modal->findChild<QTreeWidget*>(QStringLiteral("lstInfo"));
+        if (list && list->isEnabled()) {
+            title = modal->windowTitle();
+            modal->close();
+        }
+    });
+    closer.start(50);
+    error.clear();
+    int downloads = 0;
+    EXPECT_TRUE(openSubmissionBrowser(nullptr, m_company, m_program, m_home.path(), m_prompts,
+                                      &error, [&] { ++downloads; }))
+        << error.toStdString();
+    EXPECT_EQ(title, QStringLiteral("Software Submission - [Quorin]"));
+    EXPECT_EQ(downloads, 1) << "the site list is fetched once on opening";
+    EXPECT_TRUE(QFile::exists(m_home.home().siteListFile()));
+}
