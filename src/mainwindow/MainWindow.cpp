@@ -1,5 +1,7 @@
 #include "mainwindow/MainWindow.h"
 
+#include "keywords/KeywordSuggester.h"
+#include "keywords/KeywordsDialog.h"
 #include "mainwindow/AboutDialog.h"
 #include "mainwindow/AssociationTabWidget.h"
 #include "mainwindow/BannerRotation.h"
@@ -15,6 +17,8 @@
 #include "mainwindow/ProgramTabWidget.h"
 #include "mainwindow/WebInfoTabWidget.h"
 #include "platform/HttpTransfer.h"
+#include "platform/StringHelpers.h"
+#include "submission/SubmissionLoaderWidget.h"
 
 #include <QAction>
 #include <QApplication>
@@ -143,6 +147,30 @@ void MainWindow::setCommandHandlers() {
     m_session.setCommandHandler(ControlAction::About, [this] {
         AboutDialog about(m_session.prompts(), this);
         about.exec();
+    });
+    m_session.setCommandHandler(ControlAction::Keywords, [this] {
+        // Suggestions from the program's home page, for the language shown.
+        HttpTransfer http;
+        KeywordSuggester suggester(trimBlanks(m_session.text(u"cboProgramName")),
+                                   m_session.text(u"txtApplicationHomeURL"), http);
+        KeywordsDialog dialog(suggester, this);
+        if (dialog.exec() != QDialog::Accepted)
+            return;
+        if (const auto keywords = suggester.accept())
+            m_session.assistance().applyKeywords(*keywords);
+    });
+    m_session.setCommandHandler(ControlAction::Submit, [this] {
+        QString error;
+        const bool opened = openSubmissionBrowser(this, m_session.company(), m_session.program(),
+                                                  m_session.store().home().root(),
+                                                  m_session.prompts(), &error, [this] {
+                                                      // A fresh site list brings the banner data
+                                                      // along when it is two days old.
+                                                      if (m_banners->TimeToDownloadData(2))
+                                                          m_banners->BannerDataDownload();
+                                                  });
+        if (!opened)
+            m_session.navigation().SimpleText(error);
     });
     m_session.setCommandHandler(ControlAction::NextBanner,
                                 [this] { m_banners->Banner_Timer_Timer(); });
