@@ -75,6 +75,7 @@ enum class ControlAction {
     SaveText,    // target: the box saved to a text file
     NextBanner,
     ClickBanner,
+    CheckPAD, // the findings of the PAD check, each leading to its field
 };
 
 // The web pages that links open.

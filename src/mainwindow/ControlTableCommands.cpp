@@ -57,6 +57,8 @@ void menus(TableBuilder& t) {
     t.add("mnuTools", K::MenuItem, 0).caption("Translate").action(A::OpenTranslator);
     t.add("mnuTools", K::MenuItem, 1).caption("-");
     t.add("mnuTools", K::MenuItem, 2).caption("Submit To Shareware Directories").action(A::Submit);
+    t.add("mnuTools", K::MenuItem, 3).caption("-");
+    t.add("mnuTools", K::MenuItem, 4).caption("Check PAD").action(A::CheckPAD);
     t.add("mnuHelpBar", K::Label).widget(W::MenuTitle).caption("Help");
     using L = LinkTarget;
     const std::pair<const char*, int> help[] = {

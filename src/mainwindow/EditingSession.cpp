@@ -171,6 +171,8 @@ void EditingSession::runAction(const ControlRow& r) {
         return runCommand(r.action, QStringLiteral("Submit"));
     case ControlAction::About:
         return runCommand(r.action, QStringLiteral("About"));
+    case ControlAction::CheckPAD:
+        return runCommand(r.action, QStringLiteral("Check PAD"));
     case ControlAction::Keywords:
         return runCommand(r.action, QStringLiteral("Keyword suggestion"));
     case ControlAction::DownloadBanners:
@@ -284,6 +286,9 @@ void EditingSession::saveImported() {
             m_company.trimText(CompanyField::CompanyName);
             m_navigation.SetCompanyClean();
             m_state.NewCompanyPending = false;
+        } else {
+            // The write failed and said so: the imported values stay, marked unsaved.
+            m_navigation.SetCompanyDirty();
         }
     }
     if (m_state.CurrentCompanyNo >= 1 && m_state.CurrentProgramNo >= 1) {
@@ -291,6 +296,8 @@ void EditingSession::saveImported() {
         if (m_programs.WriteCurrentProgram()) {
             m_navigation.SetProgramClean();
             m_state.NewProgramPending = false;
+        } else {
+            m_navigation.SetProgramDirty();
         }
     }
     const int company = m_state.CurrentCompanyNo;

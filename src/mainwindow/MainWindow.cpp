@@ -13,6 +13,7 @@
 #include "mainwindow/EditingSession.h"
 #include "mainwindow/LinkLabelWidget.h"
 #include "mainwindow/Mnemonics.h"
+#include "mainwindow/PadCheckDialog.h"
 #include "mainwindow/PermissionsTabWidget.h"
 #include "mainwindow/ProgramTabWidget.h"
 #include "mainwindow/WebInfoTabWidget.h"
@@ -171,6 +172,18 @@ void MainWindow::setCommandHandlers() {
                                                   });
         if (!opened)
             m_session.navigation().SimpleText(error);
+    });
+    m_session.setCommandHandler(ControlAction::CheckPAD, [this] {
+        // One findings window, checked again each time it is asked for.
+        if (!m_check) {
+            m_check = new PadCheckDialog(m_session, this);
+            m_check->setAttribute(Qt::WA_DeleteOnClose);
+        } else {
+            m_check->refresh();
+        }
+        m_check->show();
+        m_check->raise();
+        m_check->activateWindow();
     });
     m_session.setCommandHandler(ControlAction::NextBanner,
                                 [this] { m_banners->Banner_Timer_Timer(); });

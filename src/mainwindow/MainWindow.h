@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 #include <memory>
 
 namespace brevaro {
@@ -10,6 +11,7 @@ class BannerStripWidget;
 class ControlBindingView;
 class EditingSession;
 class HttpTransfer;
+class PadCheckDialog;
 
 // The main window frmStart: a view over the editing session. Its widgets come from the
 // control table; the menus, the button bar, the banner strip, the nine tabs and the status
@@ -40,6 +42,7 @@ private:
     std::unique_ptr<HttpTransfer> m_http;
     BannerRotation* m_banners;
     BannerStripWidget* m_strip = nullptr;
+    QPointer<PadCheckDialog> m_check;
     bool m_shutDown = false;
     bool m_shown = false;
 };

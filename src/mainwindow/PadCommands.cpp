@@ -1,6 +1,7 @@
 #include "mainwindow/PadCommands.h"
 
 #include "mainwindow/EditingSession.h"
+#include "mainwindow/SessionMessages.h"
 #include "pad/CreatePad.h"
 #include "pad/PadImportTarget.h"
 #include "pad/PadImporter.h"
@@ -12,6 +13,7 @@
 #include <QDir>
 #include <QSaveFile>
 #include <QUrl>
+#include <algorithm>
 
 namespace brevaro {
 
@@ -111,8 +113,49 @@ void PadCommands::CreatePADFile() {
     if (!chosen || chosen->isEmpty())
         return;
     QString error;
-    if (!writePadFiles(QDir::toNativeSeparators(*chosen), &error))
+    if (!writePadFiles(QDir::toNativeSeparators(*chosen), &error)) {
         m_s.prompts().message(QStringLiteral("Create PAD"), error);
+        return;
+    }
+    // The file is written as asked; what download sites would reject is said afterwards.
+    const auto findings = checkPad(m_s.company(), m_s.program());
+    const auto errors = std::count_if(findings.begin(), findings.end(), [](const PadFinding& f) {
+        return f.severity == PadFinding::Severity::Error;
+    });
+    if (errors > 0)
+        m_s.navigation().SimpleText(
+            QStringLiteral("The PAD file was written, but %1 of its values will make download "
+                           "sites reject it: Tools, Check PAD shows where.")
+                .arg(errors));
+}
+
+std::vector<PadFinding> PadCommands::checkScreen() {
+    CompanyRecord company = m_s.company();
+    ProgramRecord program = m_s.program();
+    m_s.transfer().screenInto(RecordSide::Company, company);
+    m_s.transfer().screenInto(RecordSide::Program, program);
+    return checkPad(company, program);
+}
+
+bool PadCommands::goToField(const PadFinding& finding) {
+    ScreenModel& screen = m_s.screen();
+    for (int id = 0; id < screen.count(); ++id) {
+        const ControlRow& r = m_s.row(id);
+        if (r.side != finding.side || r.field != finding.field || r.side == RecordSide::None ||
+            (r.entry != finding.entry && r.kind != ControlKind::ListBox))
+            continue;
+        const int tab = r.place == Place::LanguagePage ? 2 : r.placeIndex;
+        const int tabs = m_s.id(u"SSTab1");
+        if (screen.at(tabs).listIndex != tab)
+            screen.setListIndex(tabs, tab);
+        if (screen.at(tabs).listIndex != tab)
+            return false;
+        if (r.place == Place::LanguagePage)
+            screen.setListIndex(m_s.id(u"SSTab2"), r.index);
+        screen.requestFocus(id);
+        return true;
+    }
+    return false;
 }
 
 bool PadCommands::importPadFile(const QString& path) {
@@ -134,7 +177,20 @@ void PadCommands::ImportPAD() {
         {QString(), QStringLiteral("xml"), folder, QStringLiteral("PAD File(s) (*.xml)|*.xml")});
     if (!chosen || chosen->isEmpty())
         return;
-    importPadFile(*chosen);
+    // The company and the program the file holds are saved together or not at all.
+    RecordStore& store = m_s.store();
+    store.beginBatch();
+    const bool accepted = importPadFile(*chosen);
+    // A save of the import that failed has said so and left its record modified.
+    const bool savedBoth = !m_s.state().CompanyDirty && !m_s.state().ProgramDirty;
+    const bool written = savedBoth && store.commitBatch();
+    store.endBatch();
+    if (accepted && !written) {
+        m_s.navigation().SetCompanyDirty();
+        m_s.navigation().SetProgramDirty();
+        if (savedBoth)
+            reportWriteFailure(m_s, QStringLiteral("The imported company and program"));
+    }
 }
 
 } // namespace brevaro

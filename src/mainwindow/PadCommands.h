@@ -1,6 +1,9 @@
 #pragma once
 
+#include "pad/PadCheck.h"
+
 #include <QString>
+#include <vector>
 
 namespace brevaro {
 
@@ -22,6 +25,11 @@ public:
     void ImportPAD();
     // Imports one file and saves what it set; false when the file was refused.
     bool importPadFile(const QString& path);
+    // The PAD check over what the screen shows now, saved or not.
+    std::vector<PadFinding> checkScreen();
+    // Takes the user to the field of a finding: its tab (and language) chosen, the field
+    // focused. False when there is no such field or the tab rule refused the tab.
+    bool goToField(const PadFinding& finding);
 
 private:
     EditingSession& m_s;

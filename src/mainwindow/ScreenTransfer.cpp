@@ -74,6 +74,12 @@ void ScreenTransfer::ScreenToCompany() {
     });
 }
 
+void ScreenTransfer::screenInto(RecordSide side, FixedRecord& record) const {
+    for (int i = 0; i < m_s.screen().count(); ++i)
+        if (m_s.row(i).side == side)
+            screenToRecord(m_s.screen(), i, m_s.row(i), record);
+}
+
 void ScreenTransfer::CompanyToScreen() {
     forEachControl(RecordSide::Company, [&](int id, const ControlRow& s) {
         recordToScreen(m_s.screen(), id, s, m_s.company());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "records/FixedRecord.h"
 #include "records/RecordField.h"
 
 namespace brevaro {
@@ -14,6 +15,8 @@ public:
     explicit ScreenTransfer(EditingSession& session);
 
     void ScreenToCompany();
+    // What the screen shows of one record, copied into record (the session's records stay).
+    void screenInto(RecordSide side, FixedRecord& record) const;
     void CompanyToScreen();
     void ClearCompanyScreen();
     void EnableCompanyFields(bool enabled);

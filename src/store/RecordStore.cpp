@@ -59,6 +59,11 @@ void RecordStore::beginBatch() {
     m_batching = true;
 }
 
+void RecordStore::endBatch() {
+    discardBatch();
+    m_batching = false;
+}
+
 void RecordStore::discardBatch() {
     m_pending.clear();
     m_programNames.clear();

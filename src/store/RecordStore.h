@@ -29,6 +29,8 @@ public:
     bool commitBatch();
     // Forgets the gathered changes.
     void discardBatch();
+    // Writes go straight to the files again (what is gathered and not committed is dropped).
+    void endBatch();
     RecordFile companyFile() const;
     RecordFile programFile(int companyId) const;
     static QString programFileName(int companyId);

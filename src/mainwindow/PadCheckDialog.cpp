@@ -1,0 +1,111 @@
+#include "mainwindow/PadCheckDialog.h"
+
+#include "mainwindow/EditingSession.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace brevaro {
+
+namespace {
+
+QIcon severityIcon(const QStyle* style, PadFinding::Severity severity) {
+    switch (severity) {
+    case PadFinding::Severity::Error:
+        return style->standardIcon(QStyle::SP_MessageBoxCritical);
+    case PadFinding::Severity::Warning:
+        return style->standardIcon(QStyle::SP_MessageBoxWarning);
+    case PadFinding::Severity::Note:
+        break;
+    }
+    return style->standardIcon(QStyle::SP_MessageBoxInformation);
+}
+
+QString severityCaption(PadFinding::Severity severity) {
+    switch (severity) {
+    case PadFinding::Severity::Error:
+        return QStringLiteral("Error");
+    case PadFinding::Severity::Warning:
+        return QStringLiteral("Warning");
+    case PadFinding::Severity::Note:
+        break;
+    }
+    return QStringLiteral("Note");
+}
+
+} // namespace
+
+PadCheckDialog::PadCheckDialog(EditingSession& session, QWidget* parent)
+    : QDialog(parent)
+    , m_session(session) {
+    setObjectName(QStringLiteral("frmPadCheck"));
+    setWindowTitle(QStringLiteral("Check PAD"));
+    m_summary = new QLabel;
+    m_summary->setObjectName(QStringLiteral("lblSummary"));
+    m_summary->setWordWrap(true);
+    m_list = new QTreeWidget;
+    m_list->setObjectName(QStringLiteral("lstFindings"));
+    m_list->setAccessibleName(QStringLiteral("Findings"));
+    m_list->setRootIsDecorated(false);
+    m_list->setAlternatingRowColors(true);
+    m_list->setWordWrap(true);
+    m_list->setHeaderLabels({QStringLiteral("Kind"), QStringLiteral("Field"),
+                             QStringLiteral("Where"), QStringLiteral("What to do")});
+    m_list->header()->setStretchLastSection(true);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    auto* again = buttons->addButton(QStringLiteral("Check &Again"), QDialogButtonBox::ActionRole);
+    again->setObjectName(QStringLiteral("cmdCheckAgain"));
+    connect(again, &QPushButton::clicked, this, &PadCheckDialog::refresh);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
+    connect(m_list, &QTreeWidget::itemActivated, this,
+            [this](QTreeWidgetItem* item) { goTo(m_list->indexOfTopLevelItem(item)); });
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(m_summary);
+    column->addWidget(m_list, 1);
+    column->addWidget(buttons);
+    resize(760, 420);
+    refresh();
+}
+
+void PadCheckDialog::refresh() {
+    m_findings = m_session.pad().checkScreen();
+    m_list->clear();
+    int errors = 0;
+    int warnings = 0;
+    for (const PadFinding& f : m_findings) {
+        errors += f.severity == PadFinding::Severity::Error;
+        warnings += f.severity == PadFinding::Severity::Warning;
+        auto* item =
+            new QTreeWidgetItem(m_list, {severityCaption(f.severity), f.label, f.place, f.message});
+        item->setIcon(0, severityIcon(style(), f.severity));
+        item->setToolTip(
+            3, f.value.isEmpty() ? f.message : f.message + QStringLiteral("\n\nValue: ") + f.value);
+        if (f.side == RecordSide::None)
+            item->setToolTip(1, QStringLiteral("The whole document"));
+    }
+    for (int c = 0; c < 3; ++c)
+        m_list->resizeColumnToContents(c);
+    if (m_findings.empty())
+        m_summary->setText(QStringLiteral("Nothing to report: download sites will read this PAD "
+                                          "file as it is."));
+    else
+        m_summary->setText(
+            QStringLiteral("%1 error(s), %2 warning(s). Errors make download sites reject the "
+                           "file; double-click a line to go to its field.")
+                .arg(errors)
+                .arg(warnings));
+}
+
+void PadCheckDialog::goTo(int row) {
+    if (row < 0 || row >= static_cast<int>(m_findings.size()))
+        return;
+    if (m_session.pad().goToField(m_findings[static_cast<std::size_t>(row)]))
+        parentWidget() ? parentWidget()->activateWindow() : void();
+}
+
+} // namespace brevaro
