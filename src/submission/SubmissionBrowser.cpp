@@ -35,7 +35,7 @@ namespace brevaro {
 namespace {
 
 // The info list is a column of fixed width at the right; everything else follows the window.
-constexpr int kInfoColumnWidth = 400;
+constexpr int kInfoColumnWidth = 360;
 constexpr int kFlashMilliseconds = 150;
 
 QLabel* buddyLabel(const char* name, const char* text, QWidget* buddy) {
@@ -115,6 +115,8 @@ void SubmissionBrowser::buildControls() {
     m_lblInfo->setFixedWidth(kInfoColumnWidth);
     m_lblInfo->setMinimumHeight(2 * m_lblInfo->fontMetrics().lineSpacing() + 6);
     m_lblInfo->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    // The label sits a little right of the list's left edge, directly below it.
+    m_lblInfo->setIndent(16);
 
     m_statusBar = new QStatusBar;
     m_statusBar->setObjectName(QStringLiteral("StatusBar1"));
@@ -189,9 +191,12 @@ QWidget* SubmissionBrowser::buildProductFrame() {
         {S::SubCategory, "Label5", "&Sub Category", 1, 3},
     };
     const QIcon copyIcon(QStringLiteral(":/brevaro-web/copy.svg"));
+    // Wide enough for a typical category or version to show whole.
+    const int minimumBox = frame->fontMetrics().averageCharWidth() * 20;
     for (const Row& r : rows) {
         auto* edit = new QLineEdit;
         edit->setObjectName(S::productControl(r.box));
+        edit->setMinimumWidth(minimumBox);
         connect(edit, &QLineEdit::textEdited, this,
                 [this, box = r.box](const QString& text) { m_session.setProduct(box, text); });
         m_product[r.box] = edit;
@@ -216,6 +221,8 @@ QWidget* SubmissionBrowser::buildProductFrame() {
     m_txtPassword = new QLineEdit;
     m_txtPassword->setObjectName(QStringLiteral("txtPassword"));
     m_txtPassword->setEchoMode(QLineEdit::Password);
+    m_txtUser->setMinimumWidth(minimumBox);
+    m_txtPassword->setMinimumWidth(minimumBox);
     grid->addWidget(buddyLabel("Label7", "&Username / Email Address", m_txtUser), 3, 0);
     grid->addWidget(m_txtUser, 3, 1);
     grid->addWidget(buddyLabel("Label6", "&Password", m_txtPassword), 3, 3);

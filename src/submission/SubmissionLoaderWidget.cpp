@@ -8,6 +8,18 @@
 
 namespace brevaro {
 
+namespace {
+
+// The web engine, loaded later from the plugin, needs OpenGL contexts shared from the moment
+// the application object is made (without it, it crashes when the browser opens). This runs
+// before main() in any program that can open the browser.
+void shareOpenGLContexts() {
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+}
+Q_CONSTRUCTOR_FUNCTION(shareOpenGLContexts)
+
+} // namespace
+
 QString submissionPluginPath() {
     QString folder = qEnvironmentVariable("BREVARO_PLUGIN_DIR");
     if (folder.isEmpty())
@@ -20,6 +32,13 @@ bool openSubmissionBrowser(QWidget* parent, const CompanyRecord& company,
                            const ProgramRecord& program, const QString& homeFolder,
                            Prompts& prompts, QString* error,
                            const std::function<void()>& afterSiteListDownload) {
+    if (!QCoreApplication::testAttribute(Qt::AA_ShareOpenGLContexts)) {
+        if (error)
+            *error = QStringLiteral("The submission browser cannot be opened: the web engine "
+                                    "needs shared OpenGL contexts, which this program did not "
+                                    "set up before it started.");
+        return false;
+    }
     // Loaded once and kept: the web engine is not made to unload.
     static QPluginLoader* loader = nullptr;
     const QString path = submissionPluginPath();

@@ -1,9 +1,9 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
-// Web view tests: the web engine wants OpenGL contexts shared before the application exists.
+// Web tests start like the program: the shared OpenGL contexts the web engine needs are set
+// before main() by the browser's loader (linked here) or by the web engine itself.
 int main(int argc, char** argv) {
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QApplication app(argc, argv);
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

@@ -5,9 +5,7 @@
 #include "TestSupport.h"
 #include "pad/CreatePad.h"
 #include "submission/SiteCipher.h"
-#include "submission/SubmissionLoaderWidget.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QEventLoop>
 #include <QLabel>
@@ -228,39 +226,4 @@ TEST_F(SubmissionBrowserTest, InfoListLabelAndCopyButtonsDriveTheModel) {
     directories->click();
     EXPECT_EQ(asked.count(), 1);
     EXPECT_EQ(m_prompts.opened, QStringList{QStringLiteral("http://acme.example/widget.xml")});
-}
-
-TEST_F(SubmissionBrowserTest, ThePluginIsFoundBesideTheProgramAndOpensTheBrowser) {
-    // Tests run from bin/ like the program, so the plugin is found where the program finds it.
-    EXPECT_TRUE(QFile::exists(submissionPluginPath())) << submissionPluginPath().toStdString();
-
-    qputenv("BREVARO_PLUGIN_DIR", QDir::tempPath().toUtf8() + "/no-such-folder");
-    QString error;
-    EXPECT_FALSE(
-        openSubmissionBrowser(nullptr, m_company, m_program, m_home.path(), m_prompts, &error));
-    EXPECT_TRUE(error.contains(QStringLiteral("no-such-folder"))) << error.toStdString();
-    qunsetenv("BREVARO_PLUGIN_DIR");
-
-    // The modal browser is found and closed once its first page has loaded.
-    QString title;
-    QTimer closer;
-    QObject::connect(&closer, &QTimer::timeout, [&] {
-        QWidget* modal = QApplication::activeModalWidget();
-        if (!modal || modal->objectName() != u"frmBrowser")
-            return;
-        auto* list = modal->findChild<QTreeWidget*>(QStringLiteral("lstInfo"));
-        if (list && list->isEnabled()) {
-            title = modal->windowTitle();
-            modal->close();
-        }
-    });
-    closer.start(50);
-    error.clear();
-    int downloads = 0;
-    EXPECT_TRUE(openSubmissionBrowser(nullptr, m_company, m_program, m_home.path(), m_prompts,
-                                      &error, [&] { ++downloads; }))
-        << error.toStdString();
-    EXPECT_EQ(title, QStringLiteral("Software Submission - [Quorin]"));
-    EXPECT_EQ(downloads, 1) << "the site list is fetched once on opening";
-    EXPECT_TRUE(QFile::exists(m_home.home().siteListFile()));
 }

@@ -1,0 +1,87 @@
+#include "FullRecords.h"
+#include "LocalHttpServer.h"
+#include "ScriptedPrompts.h"
+#include "TestSupport.h"
+#include "submission/SubmissionLoaderWidget.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTimer>
+#include <QTreeWidget>
+#include <gtest/gtest.h>
+
+using namespace brevaro;
+using namespace brevaro::test;
+
+namespace {
+
+// Whether the web engine's library is mapped into this process (Linux only; elsewhere the
+// question is not asked).
+bool webEngineMapped() {
+#ifdef Q_OS_LINUX
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("libQt6WebEngineCore");
+#else
+    return false;
+#endif
+}
+
+} // namespace
+
+// This executable links no web code, like the program: the browser comes from the plugin.
+TEST(SubmissionPlugin, LoadedOnFirstUseFromBesideTheProgram) {
+    LocalHttpServer server;
+    server.route(
+        "/unsignedpadfile.php",
+        {200, "text/html", "<html><body><input name=padfile></body></html>", {}, false, 0});
+    const QByteArray oldServer = qgetenv("BREVARO_SERVER");
+    qputenv("BREVARO_SERVER", server.url("").toUtf8());
+    TempHome home;
+    const CompanyRecord company = fullCompany();
+    const ProgramRecord program = fullProgram();
+    ScriptedPrompts prompts;
+
+    EXPECT_FALSE(webEngineMapped()) << "the web engine is loaded before it is needed";
+    // Test executables run from bin/ like the program, so the plugin is found the same way.
+    EXPECT_TRUE(QFile::exists(submissionPluginPath())) << submissionPluginPath().toStdString();
+
+    // Set before main() by the loader itself; without it the web engine would crash.
+    EXPECT_TRUE(QCoreApplication::testAttribute(Qt::AA_ShareOpenGLContexts));
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts, false);
+    QString error;
+    EXPECT_FALSE(openSubmissionBrowser(nullptr, company, program, home.path(), prompts, &error));
+    EXPECT_TRUE(error.contains(QStringLiteral("OpenGL"))) << error.toStdString();
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+
+    qputenv("BREVARO_PLUGIN_DIR", QDir::tempPath().toUtf8() + "/no-such-folder");
+    error.clear();
+    EXPECT_FALSE(openSubmissionBrowser(nullptr, company, program, home.path(), prompts, &error));
+    EXPECT_TRUE(error.contains(QStringLiteral("no-such-folder"))) << error.toStdString();
+    qunsetenv("BREVARO_PLUGIN_DIR");
+    EXPECT_FALSE(webEngineMapped());
+
+    // The modal browser is found and closed once its first page has loaded.
+    QString title;
+    QTimer closer;
+    QObject::connect(&closer, &QTimer::timeout, [&] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (!modal || modal->objectName() != u"frmBrowser")
+            return;
+        auto* list = modal->findChild<QTreeWidget*>(QStringLiteral("lstInfo"));
+        if (list && list->isEnabled()) {
+            title = modal->windowTitle();
+            modal->close();
+        }
+    });
+    closer.start(50);
+    error.clear();
+    int downloads = 0;
+    EXPECT_TRUE(openSubmissionBrowser(nullptr, company, program, home.path(), prompts, &error, [&] {
+        ++downloads;
+    })) << error.toStdString();
+    EXPECT_EQ(title, QStringLiteral("Software Submission - [Quorin]"));
+    EXPECT_EQ(downloads, 1) << "the site list is fetched once on opening";
+    EXPECT_EQ(webEngineMapped(), QFile::exists(QStringLiteral("/proc/self/maps")));
+    qputenv("BREVARO_SERVER", oldServer);
+}
