@@ -74,5 +74,5 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://www.brevaro.example/")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The platform plugins and the SVG icon engine are loaded at run time, so the computed
 # dependencies cannot see them.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, libqt6svg6")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, libqt6svg6, libqt6webenginecore6-bin")
 include(CPack)

@@ -1,5 +1,7 @@
 #include "submission/SubmissionBrowser.h"
 
+#include "submission/SiteListDialog.h"
+
 #include "platform/Prompts.h"
 #include "store/AppHome.h"
 #include "submission/CreatedPadFile.h"
@@ -166,6 +168,12 @@ QWidget* SubmissionBrowser::buildAddressRow() {
     connect(m_cmdRefresh[0], &QPushButton::clicked, m_iex, &QWebEngineView::stop);
     connect(m_cmdRefresh[1], &QPushButton::clicked, this, &SubmissionBrowser::navigate);
     connect(m_cmdRefresh[2], &QPushButton::clicked, this, &SubmissionBrowser::directoriesRequested);
+    connect(this, &SubmissionBrowser::directoriesRequested, this, [this] {
+        // The download-site list, modal; a double-clicked directory opens here.
+        SiteListDialog list(m_sites, this);
+        connect(&list, &SiteListDialog::siteChosen, this, &SubmissionBrowser::openChosenSite);
+        list.exec();
+    });
     connect(m_cmdRefresh[3], &QPushButton::clicked, this,
             [this] { m_prompts.openDocument(m_session.product(SubmissionSession::PadFileUrl)); });
     connect(m_cmdRefresh[4], &QPushButton::clicked, this, &SubmissionBrowser::navigate);
@@ -276,9 +284,7 @@ void SubmissionBrowser::showSession() {
     const bool on = m_session.controlsEnabled;
     for (int i = 1; i <= 3; ++i)
         m_cmdRefresh[static_cast<std::size_t>(i)]->setEnabled(on);
-    // "Directories" needs the download-site list window connected to directoriesRequested.
-    m_cmdRefresh[2]->setEnabled(
-        on && isSignalConnected(QMetaMethod::fromSignal(&SubmissionBrowser::directoriesRequested)));
+    m_cmdRefresh[2]->setEnabled(on);
     for (QWidget* w : m_product)
         w->setEnabled(on);
     for (QWidget* w : m_copy)

@@ -48,7 +48,8 @@ public slots:
     void navigate();
 
 signals:
-    // "Directories": the download-site list is to be shown; it answers with openChosenSite().
+    // "Directories": the download-site list is shown; a chosen directory comes back through
+    // openChosenSite().
     void directoriesRequested();
     // A page has finished loading and its known inputs have been filled.
     void knownFieldsFilled();

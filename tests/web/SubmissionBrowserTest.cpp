@@ -6,6 +6,7 @@
 #include "pad/CreatePad.h"
 #include "submission/SiteCipher.h"
 
+#include <QDialog>
 #include <QDir>
 #include <QEventLoop>
 #include <QLabel>
@@ -217,13 +218,20 @@ TEST_F(SubmissionBrowserTest, InfoListLabelAndCopyButtonsDriveTheModel) {
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return mainCat->palette().color(QPalette::Base) != QColor(Qt::black); }, 2000));
     browser.findChild<QPushButton*>(QStringLiteral("cmdRefresh_3"))->click();
-    // "Directories" asks for the download-site list, which answers through openChosenSite.
+    // "Directories" shows the download-site list over the browser.
     auto* directories = browser.findChild<QPushButton*>(QStringLiteral("cmdRefresh_2"));
-    EXPECT_FALSE(directories->isEnabled()) << "no site list window is connected";
     QSignalSpy asked(&browser, &SubmissionBrowser::directoriesRequested);
     browser.session().EnableControls();
     ASSERT_TRUE(directories->isEnabled());
+    bool listShown = false;
+    QTimer::singleShot(0, &browser, [&] {
+        if (auto* list = browser.findChild<QDialog*>(QStringLiteral("frmSharewareSites"))) {
+            listShown = list->isVisible();
+            list->reject();
+        }
+    });
     directories->click();
     EXPECT_EQ(asked.count(), 1);
+    EXPECT_TRUE(listShown);
     EXPECT_EQ(m_prompts.opened, QStringList{QStringLiteral("http://acme.example/widget.xml")});
 }
