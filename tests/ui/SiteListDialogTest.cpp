@@ -133,9 +133,13 @@ TEST(SiteListDialog, FirstShowDownloadsTheListSortsAndOpensTheDoubleClickedSite)
     EXPECT_EQ(child<QStatusBar>(dialog, "StatusBar1")->currentMessage(),
               QStringLiteral("Alpha Downloads"));
     QSignalSpy chosen(&dialog, &SiteListDialog::siteChosen);
+    QSignalSpy named(&dialog, &SiteListDialog::directoryChosen);
     doubleClick(view->viewport(), cellCentre(*view, beta, 2));
     ASSERT_EQ(chosen.count(), 1);
     EXPECT_EQ(chosen[0][0].toString(), QStringLiteral("http://beta.example/add"));
+    ASSERT_EQ(named.count(), 1);
+    EXPECT_EQ(named[0][0].toString(), QStringLiteral("Beta Files"));
+    EXPECT_EQ(named[0][1].toString(), QStringLiteral("http://beta.example/add"));
     EXPECT_EQ(dialog.siteName(), QStringLiteral("Beta Files"));
     EXPECT_EQ(dialog.siteUrl(), QStringLiteral("http://beta.example/add"));
     EXPECT_EQ(child<QStatusBar>(dialog, "StatusBar1")->currentMessage(),
