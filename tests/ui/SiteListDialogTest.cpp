@@ -280,7 +280,7 @@ TEST(SiteListDialog, ControlsAreNamedAndEnterOpensTheCurrentEntry) {
                                   QStringLiteral("mnuBar01=-"), QStringLiteral("mnuExit=E&xit")}));
     for (QWidget* w : dialog.findChildren<QWidget*>()) {
         if (w->objectName().startsWith(QLatin1String("qt_")))
-            continue; // Qt's own parts
+            continue; // Qt's own widgets
         if (qobject_cast<QAbstractItemView*>(w) || qobject_cast<QStatusBar*>(w) ||
             qobject_cast<QMenuBar*>(w) || w->objectName() == QLatin1String("lblNo")) {
             EXPECT_FALSE(w->accessibleName().isEmpty())
