@@ -32,12 +32,12 @@ namespace {
 const char* const kColumns[] = {"Keywords", "#"};
 
 // The labels and the controls they name; the mnemonic moves the focus to the control.
-struct LabelSpec {
+struct LabelRow {
     const char* name;
     const char* caption;
     const char* controlName; // the accessible name of the control
 };
-const LabelSpec kLabels[] = {
+const LabelRow kLabels[] = {
     {"Label1", "Application Home&page:", "Application homepage"},
     {"Label2", "&Words Found on Application Homepage above:", "Words found on the homepage"},
     {"Label3",

@@ -219,6 +219,7 @@ void SiteListDialog::chooseSite(QTreeWidgetItem* item) {
     m_siteUrl = trimBlanks(site.url);
     showStatus(QStringLiteral("Opening: ") + m_siteName);
     emit siteChosen(m_siteUrl);
+    emit directoryChosen(m_siteName, m_siteUrl);
     done(QDialog::Accepted);
 }
 

@@ -37,7 +37,10 @@ public slots:
     void reject() override;
 
 signals:
+    // A double-click on a directory: its address, trimmed, and the same with its name
+    // (which fits SubmissionBrowser::openSite).
     void siteChosen(const QString& url);
+    void directoryChosen(const QString& name, const QString& url);
     // The window's own loading of the list, or a download from its menu, is over.
     void loadFinished();
 

@@ -64,7 +64,7 @@ void expectNothingClippedOrOverlapping(QWidget& window, const QString& state) {
                 b->objectName().startsWith(QLatin1String("qt_")))
                 continue;
             if (a->parentWidget()->layout() == nullptr)
-                continue; // a composite widget placing its own parts
+                continue; // a composite widget placing its own children
             EXPECT_FALSE(a->geometry().intersects(b->geometry()))
                 << state.toStdString() << ' ' << a->objectName().toStdString() << " overlaps "
                 << b->objectName().toStdString();

@@ -276,7 +276,7 @@ TEST(KeywordsDialog, ControlsAreNamedCaptionedAndReachable) {
 
     for (QWidget* w : dialog.findChildren<QWidget*>()) {
         if (w->objectName().startsWith(QLatin1String("qt_")))
-            continue; // Qt's own parts
+            continue; // Qt's own widgets
         if (qobject_cast<QAbstractButton*>(w) || qobject_cast<QLineEdit*>(w) ||
             qobject_cast<QAbstractItemView*>(w) || qobject_cast<QStatusBar*>(w) ||
             w->objectName() == QLatin1String("lblInfo")) {

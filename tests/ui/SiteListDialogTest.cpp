@@ -133,9 +133,13 @@ TEST(SiteListDialog, FirstShowDownloadsTheListSortsAndOpensTheDoubleClickedSite)
     EXPECT_EQ(child<QStatusBar>(dialog, "StatusBar1")->currentMessage(),
               QStringLiteral("Alpha Downloads"));
     QSignalSpy chosen(&dialog, &SiteListDialog::siteChosen);
+    QSignalSpy named(&dialog, &SiteListDialog::directoryChosen);
     doubleClick(view->viewport(), cellCentre(*view, beta, 2));
     ASSERT_EQ(chosen.count(), 1);
     EXPECT_EQ(chosen[0][0].toString(), QStringLiteral("http://beta.example/add"));
+    ASSERT_EQ(named.count(), 1);
+    EXPECT_EQ(named[0][0].toString(), QStringLiteral("Beta Files"));
+    EXPECT_EQ(named[0][1].toString(), QStringLiteral("http://beta.example/add"));
     EXPECT_EQ(dialog.siteName(), QStringLiteral("Beta Files"));
     EXPECT_EQ(dialog.siteUrl(), QStringLiteral("http://beta.example/add"));
     EXPECT_EQ(child<QStatusBar>(dialog, "StatusBar1")->currentMessage(),
@@ -276,7 +280,7 @@ TEST(SiteListDialog, ControlsAreNamedAndEnterOpensTheCurrentEntry) {
                                   QStringLiteral("mnuBar01=-"), QStringLiteral("mnuExit=E&xit")}));
     for (QWidget* w : dialog.findChildren<QWidget*>()) {
         if (w->objectName().startsWith(QLatin1String("qt_")))
-            continue; // Qt's own parts
+            continue; // Qt's own widgets
         if (qobject_cast<QAbstractItemView*>(w) || qobject_cast<QStatusBar*>(w) ||
             qobject_cast<QMenuBar*>(w) || w->objectName() == QLatin1String("lblNo")) {
             EXPECT_FALSE(w->accessibleName().isEmpty())
