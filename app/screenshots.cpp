@@ -8,6 +8,7 @@
 #include "store/RecordStore.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QDir>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -48,6 +49,8 @@ bool save(QWidget& w, const QString& dir, const char* name) {
 
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
+    // The pointer away from the window, so no link is drawn as hovered.
+    QCursor::setPos(1200, 0);
     if (argc < 3) {
         qWarning("usage: brevaro-screenshots OUTPUT_DIR PAD_FILE [WIDTH HEIGHT]");
         return 1;

@@ -41,11 +41,31 @@ QString fromEditor(const QString& text) {
     return stored;
 }
 
+// What a picture or a frame without a caption is called for a screen reader.
+QString unlabelledName(const ControlRow& row) {
+    static const QHash<QString, QString> names = {
+        {QStringLiteral("picBrevaro"), QStringLiteral("Brevaro homepage")},
+        {QStringLiteral("picQuorin"), QStringLiteral("Quorin homepage")},
+        {QStringLiteral("picClickNextBanner"), QStringLiteral("Next banner")},
+        {QStringLiteral("AniGifEx1"), QStringLiteral("Banner")},
+        {QStringLiteral("Frame9"), QStringLiteral("Expiry")},
+        {QStringLiteral("frmDescr1"), QStringLiteral("Descriptions")},
+        {QStringLiteral("frmCopyright"), QStringLiteral("Copyright")},
+        {QStringLiteral("frmDescriptions"), QStringLiteral("Description")},
+    };
+    if (row.name == QLatin1String("picASP"))
+        return row.index == 0 ? QStringLiteral("Association of Shareware Professionals")
+                              : QStringLiteral("About PAD files");
+    return names.value(row.name);
+}
+
 // The name a screen reader gives a control: its label, else its caption, else its tooltip.
 QString accessibleNameOf(const ControlRow& row) {
     QString name = !row.label.isEmpty() ? row.label : row.caption;
     if (name.isEmpty() || name == QLatin1String("-"))
         name = row.toolTip;
+    if (name.isEmpty())
+        name = unlabelledName(row);
     name.remove(u':');
     name = name.trimmed();
     if (row.place == Place::LanguagePage)
@@ -138,8 +158,11 @@ void ControlBindingView::create(int id) {
         }
     }
     const QString name = accessibleNameOf(r);
-    if (!name.isEmpty() && w != m_window)
+    if (!name.isEmpty() && w != m_window) {
         w->setAccessibleName(name);
+        if (auto* c = qobject_cast<QComboBox*>(w); c && c->lineEdit())
+            c->lineEdit()->setAccessibleName(name);
+    }
     bindUserSignals(id, w);
 }
 

@@ -161,13 +161,13 @@ constexpr Placement kPlacements[] = {
     {"chkESC", Tab, 6, "Frame16", ""},
     {"chkMSNactivate", Tab, 7, "", ""},
     {"Frame17", Tab, 7, "", ""},
-    {"lblMSNNote", Tab, 7, "Frame17", ""},
+    {"lblMSNNote", Tab, 7, "Frame17", "chkMSN"},
     {"chkMSN", Tab, 7, "Frame17", ""},
     {"chkTPAactivate", Tab, 8, "", ""},
     {"Frame18", Tab, 8, "", ""},
     {"chkTPA", Tab, 8, "Frame18", ""},
     {"txtTPA_MemberNo", Tab, 8, "Frame18", "chkTPA"},
-    {"lblTPANote", Tab, 8, "Frame18", ""},
+    {"lblTPANote", Tab, 8, "Frame18", "cboTPA_LicenseType"},
     {"cboTPA_LicenseType", Tab, 8, "Frame18", ""},
 };
 

@@ -3,6 +3,7 @@
 #include "mainwindow/ControlBindingView.h"
 #include "mainwindow/EditingSession.h"
 
+#include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -67,11 +68,18 @@ void FormPageWidget::fillRows(const QString& frameName, QLayout* layout) {
         }
         frames = nullptr;
         QWidget* w = rowWidget(id, frameName);
-        QWidget* label = m_view.labelFor(id);
+        // A field its frame already names needs no label of its own.
+        auto* box = qobject_cast<QGroupBox*>(layout->parentWidget());
+        QWidget* label = box && box->title() == r.label ? nullptr : m_view.labelFor(id);
         for (int other : m_view.ids())
             if (m_view.row(other).beside == r.name && captionsItsRow(m_view.row(other)))
                 label = m_view.widget(other);
-        if (form && label)
+        if (auto* text = qobject_cast<QLabel*>(label); form && text && text->text().size() > 40) {
+            // A sentence that introduces the field stands on its own line above it.
+            text->setWordWrap(true);
+            form->addRow(text);
+            form->addRow(w);
+        } else if (form && label)
             form->addRow(label, w);
         else if (form)
             form->addRow(w);
@@ -96,7 +104,9 @@ QWidget* FormPageWidget::rowWidget(int id, const QString& frameName) {
     auto* row = new QWidget;
     auto* h = new QHBoxLayout(row);
     h->setContentsMargins(0, 0, 0, 0);
-    h->addWidget(main, 1);
+    // A check box keeps its size; the box beside it takes the room.
+    const bool grows = !qobject_cast<QAbstractButton*>(main);
+    h->addWidget(main, grows ? 1 : 0);
     if (isTall(main)) {
         auto* column = new QVBoxLayout;
         for (QWidget* b : beside)
@@ -105,7 +115,7 @@ QWidget* FormPageWidget::rowWidget(int id, const QString& frameName) {
         h->addLayout(column);
     } else {
         for (QWidget* b : beside)
-            h->addWidget(b, qobject_cast<QLabel*>(b) ? 0 : 0);
+            h->addWidget(b, !grows && !qobject_cast<QAbstractButton*>(b) ? 1 : 0);
     }
     return row;
 }

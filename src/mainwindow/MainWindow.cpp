@@ -155,7 +155,9 @@ void MainWindow::setCommandHandlers() {
         KeywordSuggester suggester(trimBlanks(m_session.text(u"cboProgramName")),
                                    m_session.text(u"txtApplicationHomeURL"), http);
         KeywordsDialog dialog(suggester, this);
-        if (dialog.exec() != QDialog::Accepted)
+        const bool accepted = dialog.exec() == QDialog::Accepted;
+        m_session.screen().setVisible(m_session.id(u"picKeywordsGenerator"), true);
+        if (!accepted)
             return;
         if (const auto keywords = suggester.accept())
             m_session.assistance().applyKeywords(*keywords);

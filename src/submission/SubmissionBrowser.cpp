@@ -171,7 +171,7 @@ QWidget* SubmissionBrowser::buildAddressRow() {
     connect(this, &SubmissionBrowser::directoriesRequested, this, [this] {
         // The download-site list, modal; a double-clicked directory opens here.
         SiteListDialog list(m_sites, this);
-        connect(&list, &SiteListDialog::siteChosen, this, &SubmissionBrowser::openChosenSite);
+        connect(&list, &SiteListDialog::directoryChosen, this, &SubmissionBrowser::openSite);
         list.exec();
     });
     connect(m_cmdRefresh[3], &QPushButton::clicked, this,

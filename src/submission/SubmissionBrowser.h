@@ -49,7 +49,7 @@ public slots:
 
 signals:
     // "Directories": the download-site list is shown; a chosen directory comes back through
-    // openChosenSite().
+    // openSite().
     void directoriesRequested();
     // A page has finished loading and its known inputs have been filled.
     void knownFieldsFilled();
