@@ -7,8 +7,10 @@
 #include "store/AppHome.h"
 #include "store/RecordStore.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCursor>
+#include <QDialog>
 #include <QDir>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -88,6 +90,10 @@ int main(int argc, char* argv[]) {
         tabs->setCurrentIndex(i);
         ok &= save(window, out, names[i]);
     }
+    // The PAD check's findings, from the Tools menu.
+    window.findChild<QAction*>(QStringLiteral("mnuTools_4"))->trigger();
+    if (auto* check = window.findChild<QDialog*>(QStringLiteral("frmPadCheck")))
+        ok &= save(*check, out, "check");
     AboutDialog about(prompts, &window);
     about.show();
     ok &= save(about, out, "about");
