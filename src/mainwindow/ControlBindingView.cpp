@@ -84,8 +84,15 @@ ControlBindingView::ControlBindingView(EditingSession& session, QWidget* window)
         create(id);
     connect(&session.screen(), &ScreenModel::controlChanged, this, &ControlBindingView::repaint);
     connect(&session.screen(), &ScreenModel::focusRequested, this, [this](int id) {
-        if (QWidget* w = widget(id); w && w->isEnabled())
-            w->setFocus(Qt::OtherFocusReason);
+        // After the tab changes that the same command asked for (they are shown from the
+        // event loop too), so the field is on screen when it takes the focus.
+        QTimer::singleShot(0, this, [this, id] {
+            if (QWidget* w = widget(id); w && w->isEnabled()) {
+                ++m_painting;
+                w->setFocus(Qt::OtherFocusReason);
+                --m_painting;
+            }
+        });
     });
     connect(&session.screen(), &ScreenModel::caretRequested, this, &ControlBindingView::caret);
     connect(&session.screen(), &ScreenModel::flashRequested, this, &ControlBindingView::flash);

@@ -38,6 +38,13 @@ QString severityCaption(PadFinding::Severity severity) {
     return QStringLiteral("Note");
 }
 
+// A message that goes on from the field's name reads as a sentence with it.
+QString sentence(const PadFinding& f) {
+    if (!f.message.isEmpty() && f.message.front().isLower() && !f.label.isEmpty())
+        return f.label + u' ' + f.message;
+    return f.message;
+}
+
 } // namespace
 
 PadCheckDialog::PadCheckDialog(EditingSession& session, QWidget* parent)
@@ -62,11 +69,33 @@ PadCheckDialog::PadCheckDialog(EditingSession& session, QWidget* parent)
     again->setObjectName(QStringLiteral("cmdCheckAgain"));
     connect(again, &QPushButton::clicked, this, &PadCheckDialog::refresh);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
+    // The whole of the selected finding, with the value it is about.
+    m_detail = new QLabel;
+    m_detail->setObjectName(QStringLiteral("lblDetail"));
+    m_detail->setWordWrap(true);
+    m_detail->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_detail->setMinimumHeight(m_detail->fontMetrics().lineSpacing() * 3);
+    m_detail->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    connect(m_list, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
+        const int row = item ? m_list->indexOfTopLevelItem(item) : -1;
+        if (row < 0 || row >= static_cast<int>(m_findings.size())) {
+            m_detail->clear();
+            return;
+        }
+        const PadFinding& f = m_findings[static_cast<std::size_t>(row)];
+        QString text = sentence(f);
+        if (!f.value.isEmpty())
+            text += QStringLiteral("\nValue: ") + f.value;
+        if (!f.element.isEmpty())
+            text += QStringLiteral("\nPAD element: ") + f.element;
+        m_detail->setText(text);
+    });
     connect(m_list, &QTreeWidget::itemActivated, this,
             [this](QTreeWidgetItem* item) { goTo(m_list->indexOfTopLevelItem(item)); });
     auto* column = new QVBoxLayout(this);
     column->addWidget(m_summary);
     column->addWidget(m_list, 1);
+    column->addWidget(m_detail);
     column->addWidget(buttons);
     resize(760, 420);
     refresh();
@@ -80,16 +109,17 @@ void PadCheckDialog::refresh() {
     for (const PadFinding& f : m_findings) {
         errors += f.severity == PadFinding::Severity::Error;
         warnings += f.severity == PadFinding::Severity::Warning;
-        auto* item =
-            new QTreeWidgetItem(m_list, {severityCaption(f.severity), f.label, f.place, f.message});
+        auto* item = new QTreeWidgetItem(
+            m_list, {severityCaption(f.severity), f.label, f.place, sentence(f)});
         item->setIcon(0, severityIcon(style(), f.severity));
-        item->setToolTip(
-            3, f.value.isEmpty() ? f.message : f.message + QStringLiteral("\n\nValue: ") + f.value);
+        item->setToolTip(3, sentence(f));
         if (f.side == RecordSide::None)
             item->setToolTip(1, QStringLiteral("The whole document"));
     }
     for (int c = 0; c < 3; ++c)
         m_list->resizeColumnToContents(c);
+    if (m_list->topLevelItemCount() > 0)
+        m_list->setCurrentItem(m_list->topLevelItem(0));
     if (m_findings.empty())
         m_summary->setText(QStringLiteral("Nothing to report: download sites will read this PAD "
                                           "file as it is."));

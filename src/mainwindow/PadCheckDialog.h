@@ -30,6 +30,7 @@ private:
     EditingSession& m_session;
     QTreeWidget* m_list;
     QLabel* m_summary;
+    QLabel* m_detail;
     std::vector<PadFinding> m_findings;
 };
 

@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QGroupBox>
 #include <QLabel>
@@ -25,6 +26,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
+#include <QTreeWidget>
 
 using namespace brevaro;
 using namespace brevaro::test;
@@ -326,4 +328,29 @@ TEST_F(MainWindowTest, HelpMenuAndLinksOpenTheirPages) {
     EXPECT_EQ(prompts.opened[1], organization->text());
     QTest::mouseMove(organization);
     EXPECT_TRUE(organization->isHovered());
+}
+
+// Tools, Check PAD lists what the screen holds now; activating a finding takes the user to
+// its field.
+TEST_F(MainWindowTest, CheckPadLeadsFromAFindingToItsField) {
+    prompts.inputs.push_back(QStringLiteral("Smith"));
+    clickButton(0);
+    clickButton(1);
+    typeInto(QStringLiteral("txtCity"), QStringLiteral("Fish & Chips"));
+    chooseTab(3);
+    window->findChild<QAction*>(QStringLiteral("mnuTools_4"))->trigger();
+    auto* check = window->findChild<QDialog*>(QStringLiteral("frmPadCheck"));
+    ASSERT_TRUE(check);
+    EXPECT_TRUE(check->isVisible());
+    auto* list = check->findChild<QTreeWidget*>(QStringLiteral("lstFindings"));
+    ASSERT_TRUE(list);
+    QTreeWidgetItem* city = nullptr;
+    for (int i = 0; i < list->topLevelItemCount(); ++i)
+        if (list->topLevelItem(i)->text(1) == QStringLiteral("City / Town"))
+            city = list->topLevelItem(i);
+    ASSERT_TRUE(city);
+    EXPECT_EQ(city->text(0), QStringLiteral("Error"));
+    emit list->itemActivated(city, 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tabs()->currentIndex() == 0; }, 2000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return find(QStringLiteral("txtCity"))->hasFocus(); }, 2000));
 }
