@@ -16,7 +16,6 @@ using namespace brevaro;
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("brevaro"));
-    QApplication::setApplicationDisplayName(QLatin1String(kAppTitle));
     QApplication::setApplicationVersion(
         QStringLiteral("%1.%2.%3").arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision));
     QGuiApplication::setDesktopFileName(QStringLiteral("io.github.brevaro.Brevaro"));

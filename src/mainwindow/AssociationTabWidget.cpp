@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace brevaro {
@@ -38,8 +39,11 @@ AssociationTabWidget::AssociationTabWidget(ControlBindingView& view, int extensi
         link->setPointSize(12);
         texts->addWidget(link);
         inside->addLayout(texts, 1);
-        if (k == 0)
-            inside->addWidget(control(u"picASP", 0), 0, Qt::AlignTop);
+        if (k == 0) {
+            auto* logo = qobject_cast<QToolButton*>(control(u"picASP", 0));
+            logo->setIconSize(QSize(96, 40));
+            inside->addWidget(logo, 0, Qt::AlignTop);
+        }
         column->addWidget(box);
     }
     column->addStretch();

@@ -21,6 +21,7 @@
 #include <QRadioButton>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTextDocument>
 #include <QTimer>
 #include <QToolButton>
 
@@ -33,6 +34,15 @@ QString toEditor(const QString& text) {
     QString shown = text;
     shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     return shown;
+}
+
+// The editor's text as typed (no-break spaces kept), with LF line ends.
+QString editorText(const QPlainTextEdit* e) {
+    QString text = e->document()->toRawText();
+    for (QChar& c : text)
+        if (c == QChar::ParagraphSeparator || c == QChar::LineSeparator)
+            c = u'\n';
+    return text;
 }
 
 QString fromEditor(const QString& text) {
@@ -197,6 +207,11 @@ QWidget* ControlBindingView::createWidget(int id, const ControlRow& r) {
         c->setMinimumContentsLength(4);
         if (c->lineEdit() && s.maxLength > 0)
             c->lineEdit()->setMaxLength(s.maxLength);
+        // Typing is taken as typed, without completion from the list.
+        c->setCompleter(nullptr);
+        // The wheel changes an entry only once the box has been chosen.
+        c->setFocusPolicy(Qt::StrongFocus);
+        c->installEventFilter(this);
         return c;
     }
     case WidgetType::MultiList: {
@@ -235,8 +250,14 @@ QWidget* ControlBindingView::createWidget(int id, const ControlRow& r) {
         return new QGroupBox(r.caption);
     case WidgetType::TabStrip:
         return new QTabWidget;
-    case WidgetType::StatusBar:
-        return new QStatusBar;
+    case WidgetType::StatusBar: {
+        // The text sits in a label of the bar, so a menu's passing tip does not erase it.
+        auto* bar = new QStatusBar;
+        auto* text = new QLabel;
+        text->setObjectName(QStringLiteral("StatusText"));
+        bar->addWidget(text, 1);
+        return bar;
+    }
     case WidgetType::MenuTitle:
         return new QMenu(r.caption);
     case WidgetType::None:
@@ -257,21 +278,22 @@ void ControlBindingView::bindUserSignals(int id, QWidget* w) {
         connect(e, &QPlainTextEdit::textChanged, this, [this, e, id] {
             if (m_painting)
                 return;
-            // The box's limit counts stored characters (a line end is two).
-            QString text = fromEditor(e->toPlainText());
+            // The box's limit counts stored characters (a line end is two). What goes over it
+            // is taken off what was just typed or pasted, before the caret, as one undoable
+            // step; the rest of the text stays.
+            QString text = fromEditor(editorText(e));
             const int limit = m_session.screen().at(id).maxLength;
             if (limit > 0 && text.size() > limit) {
-                const int caret = e->textCursor().position();
-                text.truncate(limit);
-                if (text.endsWith(u'\r'))
-                    text.chop(1);
                 ++m_painting;
-                e->setPlainText(toEditor(text));
                 QTextCursor cursor = e->textCursor();
-                cursor.setPosition(std::min(caret, static_cast<int>(e->toPlainText().size())));
+                cursor.joinPreviousEditBlock();
+                while (text.size() > limit && cursor.position() > 0) {
+                    cursor.deletePreviousChar();
+                    text = fromEditor(editorText(e));
+                }
+                cursor.endEditBlock();
                 e->setTextCursor(cursor);
                 --m_painting;
-                QApplication::beep();
             }
             m_session.screen().setText(id, text);
         });
@@ -288,12 +310,13 @@ void ControlBindingView::bindUserSignals(int id, QWidget* w) {
             if (m_painting)
                 return;
             ScreenModel& model = m_session.screen();
-            for (int i = 0; i < l->count(); ++i) {
-                const ControlState& s = model.at(id);
-                const bool on = l->item(i)->isSelected();
-                if (i < s.selected.size() && s.selected[i] != on)
-                    model.setItemSelected(id, i, on);
-            }
+            // Read the whole selection first: each change repaints the list from the model.
+            QList<bool> wanted;
+            for (int i = 0; i < l->count(); ++i)
+                wanted << l->item(i)->isSelected();
+            for (int i = 0; i < wanted.size(); ++i)
+                if (i < model.at(id).selected.size() && model.at(id).selected[i] != wanted[i])
+                    model.setItemSelected(id, i, wanted[i]);
         });
     } else if (auto* b = qobject_cast<QCheckBox*>(w)) {
         connect(b, &QCheckBox::clicked, this,
@@ -320,8 +343,14 @@ void ControlBindingView::bindUserSignals(int id, QWidget* w) {
 }
 
 bool ControlBindingView::eventFilter(QObject* watched, QEvent* event) {
+    // Scrolling a page over a drop-down does not change its entry.
+    if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
+        event->ignore();
+        return true;
+    }
     // The banner image is a picture that clicks.
-    if (event->type() == QEvent::MouseButtonRelease) {
+    if (event->type() == QEvent::MouseButtonRelease &&
+        row(m_idOf.value(static_cast<QWidget*>(watched))).widget == WidgetType::BannerImage) {
         const auto found = m_idOf.constFind(static_cast<QWidget*>(watched));
         if (found != m_idOf.constEnd())
             m_session.screen().click(*found);
@@ -379,7 +408,7 @@ void ControlBindingView::repaintValue(int id, QWidget* w, unsigned what) {
             e->setCursorPosition(0);
         }
     } else if (auto* e = qobject_cast<QPlainTextEdit*>(w)) {
-        if ((what & kChangedText) && fromEditor(e->toPlainText()) != s.text)
+        if ((what & kChangedText) && fromEditor(editorText(e)) != s.text)
             e->setPlainText(toEditor(s.text));
     } else if (auto* c = qobject_cast<QComboBox*>(w)) {
         const QSignalBlocker block(c);
@@ -390,7 +419,10 @@ void ControlBindingView::repaintValue(int id, QWidget* w, unsigned what) {
             // A list filled one entry at a time grows by one entry at a time.
             c->addItem(s.items.constLast());
         }
-        if (what & (kChangedSelection | kChangedText | kChangedItems | kItemAdded)) {
+        // What the user is typing stays as it is (caret included): the model took it.
+        const bool typed = c->isEditable() && c->lineEdit()->text() == s.text &&
+                           !(what & (kChangedItems | kItemAdded));
+        if ((what & (kChangedSelection | kChangedText | kChangedItems | kItemAdded)) && !typed) {
             if (c->currentIndex() != s.listIndex)
                 c->setCurrentIndex(s.listIndex);
             if (c->isEditable() && c->currentText() != s.text) {
@@ -428,7 +460,7 @@ void ControlBindingView::repaintValue(int id, QWidget* w, unsigned what) {
         }
     } else if (auto* bar = qobject_cast<QStatusBar*>(w)) {
         if (what & (kChangedCaption | kChangedText))
-            bar->showMessage(s.text);
+            bar->findChild<QLabel*>(QStringLiteral("StatusText"))->setText(s.text);
     } else if (auto* link = qobject_cast<LinkLabelWidget*>(w)) {
         if ((what & (kChangedCaption | kChangedText)) && !s.text.isEmpty())
             link->setText(s.text);
@@ -476,16 +508,25 @@ void ControlBindingView::flash(int id) {
     QWidget* w = widget(id);
     if (!w)
         return;
-    // White on black for a moment: the copy has happened.
-    const QPalette normal = w->palette();
-    QPalette inverted = normal;
+    // White on black for a moment: the copy has happened. A second flash before the first has
+    // ended keeps the palette saved by the first.
+    if (!m_flashing.contains(w))
+        m_flashing.insert(w, {w->palette(), 0});
+    ++m_flashing[w].pending;
+    QPalette inverted = m_flashing[w].normal;
     for (auto role : {QPalette::Base, QPalette::Window})
         inverted.setColor(role, Qt::black);
     for (auto role : {QPalette::Text, QPalette::WindowText})
         inverted.setColor(role, Qt::white);
     w->setPalette(inverted);
     w->repaint();
-    QTimer::singleShot(250, w, [w, normal] { w->setPalette(normal); });
+    QTimer::singleShot(250, w, [this, w] {
+        auto found = m_flashing.find(w);
+        if (found == m_flashing.end() || --found->pending > 0)
+            return;
+        w->setPalette(found->normal);
+        m_flashing.erase(found);
+    });
 }
 
 } // namespace brevaro

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QPalette>
 #include <QSet>
 #include <vector>
 
@@ -61,6 +62,11 @@ private:
     QHash<int, QAction*> m_actions;
     QHash<QWidget*, int> m_idOf;
     QSet<QWidget*> m_hiddenByModel;
+    struct Flash {
+        QPalette normal;
+        int pending = 0;
+    };
+    QHash<QWidget*, Flash> m_flashing;
     int m_painting = 0; // above 0 while the model is being shown: widget signals are not edits
 };
 

@@ -44,6 +44,17 @@ void LinkLabelWidget::leaveEvent(QEvent* event) {
     QLabel::leaveEvent(event);
 }
 
+void LinkLabelWidget::focusInEvent(QFocusEvent* event) {
+    // The keyboard's focus looks like the mouse over it.
+    setHovered(true);
+    QLabel::focusInEvent(event);
+}
+
+void LinkLabelWidget::focusOutEvent(QFocusEvent* event) {
+    setHovered(false);
+    QLabel::focusOutEvent(event);
+}
+
 void LinkLabelWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
         emit clicked();

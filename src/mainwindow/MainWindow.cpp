@@ -130,17 +130,28 @@ QWidget* MainWindow::buildCopyright() {
     return frame;
 }
 
-// Tab follows the order in which the record operations visit the fields.
+// Tab follows the order in which the record operations visit the fields, each field
+// followed by the buttons beside it.
 void MainWindow::setTabOrder() {
     QWidget* previous = nullptr;
+    auto chain = [&](QWidget* w) {
+        if (previous)
+            QWidget::setTabOrder(previous, w);
+        previous = w;
+    };
     for (int id : m_view->ids()) {
         const ControlRow& r = m_view->row(id);
         QWidget* w = m_view->widget(id);
         if (r.side == RecordSide::None || !w || r.place == Place::Hidden)
             continue;
-        if (previous)
-            QWidget::setTabOrder(previous, w);
-        previous = w;
+        chain(w);
+        if (r.index > 0)
+            continue;
+        for (int other : m_view->ids()) {
+            const ControlRow& o = m_view->row(other);
+            if (o.beside == r.name && o.action != ControlAction::None && m_view->widget(other))
+                chain(m_view->widget(other));
+        }
     }
 }
 

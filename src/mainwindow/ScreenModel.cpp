@@ -47,8 +47,11 @@ void ScreenModel::setText(int id, const QString& text) {
         return;
     if (s.kind == ControlKind::ComboBox) {
         const int item = static_cast<int>(s.items.indexOf(text));
-        if (s.keepsItem && text.isEmpty())
+        if (s.keepsItem && text.isEmpty()) {
+            // Refused: the view shows the kept entry again.
+            changed(id, kChangedText);
             return;
+        }
         s.listIndex = item;
     }
     s.text = text;

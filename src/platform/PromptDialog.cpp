@@ -7,10 +7,37 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QUrl>
 
 namespace brevaro {
+
+namespace {
+
+// A question that only Yes or No answers: Escape and the title bar's close do nothing, so a
+// user backing out of a save prompt never discards work by accident.
+class AnswerRequired : public QObject {
+public:
+    explicit AnswerRequired(QMessageBox& box)
+        : QObject(&box)
+        , m_box(box) {}
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress &&
+            static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+            return true;
+        if (event->type() == QEvent::Close && !m_box.clickedButton()) {
+            event->ignore();
+            return true;
+        }
+        return false;
+    }
+
+private:
+    QMessageBox& m_box;
+};
+
+} // namespace
 
 bool PromptDialog::askYesNo(const QString& title, const QString& text, Icon icon) {
     QMessageBox box(m_parent);
@@ -31,8 +58,7 @@ bool PromptDialog::askYesNo(const QString& title, const QString& text, Icon icon
     }
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     box.setDefaultButton(QMessageBox::Yes);
-    // Escape and the title bar's close answer No: nothing is done that was not asked for.
-    box.setEscapeButton(QMessageBox::No);
+    box.installEventFilter(new AnswerRequired(box));
     return box.exec() == QMessageBox::Yes;
 }
 

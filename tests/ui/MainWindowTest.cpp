@@ -25,6 +25,7 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QTextCursor>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -58,7 +59,9 @@ protected:
         return all.value(0);
     }
     QTabWidget* tabs() { return find<QTabWidget>(QStringLiteral("SSTab1")); }
-    QString status() { return window->statusBar()->currentMessage(); }
+    QString status() {
+        return window->statusBar()->findChild<QLabel*>(QStringLiteral("StatusText"))->text();
+    }
     void clickButton(int i) {
         QTest::mouseClick(find<QPushButton>(QStringLiteral("cmdButton_%1").arg(i)), Qt::LeftButton);
     }
@@ -353,4 +356,70 @@ TEST_F(MainWindowTest, CheckPadLeadsFromAFindingToItsField) {
     emit list->itemActivated(city, 0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return tabs()->currentIndex() == 0; }, 2000));
     EXPECT_TRUE(QTest::qWaitFor([&] { return find(QStringLiteral("txtCity"))->hasFocus(); }, 2000));
+}
+
+// Widget and model agree whatever the user does: typing into a drop-down that also takes
+// text, choosing every item at once, refusing to clear a status, pasting into a full box,
+// copying twice in a row, opening a menu over the status text.
+TEST_F(MainWindowTest, WidgetsAndModelStayInStep) {
+    prompts.inputs.push_back(QStringLiteral("Acme"));
+    clickButton(0);
+    clickButton(1);
+    chooseTab(1);
+    prompts.inputs.push_back(QStringLiteral("Rocket"));
+    clickButton(3);
+
+    auto* type = find<QComboBox>(QStringLiteral("cboType"));
+    type->setFocus();
+    type->setCurrentIndex(0);
+    emit type->activated(0);
+    type->lineEdit()->end(false);
+    QTest::keyClicks(type->lineEdit(), QStringLiteral("xy"));
+    EXPECT_EQ(type->lineEdit()->text(), session->screen().at(u"cboType").text);
+    EXPECT_TRUE(type->lineEdit()->text().endsWith(QStringLiteral("xy")));
+    EXPECT_EQ(type->lineEdit()->cursorPosition(), type->lineEdit()->text().size());
+
+    auto* languages = find<QListWidget>(QStringLiteral("lstLanguages"));
+    languages->setFocus();
+    languages->selectAll();
+    const QList<bool> chosen = session->screen().at(u"lstLanguages").selected;
+    EXPECT_EQ(chosen.count(true), languages->count());
+
+    auto* releaseStatus = find<QComboBox>(QStringLiteral("cboStatus"));
+    releaseStatus->setCurrentIndex(1);
+    emit releaseStatus->activated(1);
+    const QString kept = releaseStatus->currentText();
+    releaseStatus->lineEdit()->clear();
+    emit releaseStatus->lineEdit()->textEdited(QString());
+    EXPECT_EQ(releaseStatus->currentText(), kept);
+    EXPECT_EQ(session->screen().at(u"cboStatus").text, kept);
+
+    chooseTab(4);
+    auto* eula = find<QPlainTextEdit>(QStringLiteral("txtEULA"));
+    const int limit = session->screen().at(u"txtEULA").maxLength;
+    ASSERT_GT(limit, 10);
+    eula->setFocus();
+    const QString full = QString(limit - 3, u'a') + QStringLiteral("END");
+    eula->setPlainText(full);
+    QTextCursor cursor = eula->textCursor();
+    cursor.setPosition(10);
+    eula->setTextCursor(cursor);
+    QTest::keyClicks(eula, QStringLiteral("pasted"));
+    EXPECT_EQ(session->screen().at(u"txtEULA").text.size(), limit);
+    EXPECT_TRUE(session->screen().at(u"txtEULA").text.endsWith(QStringLiteral("END")));
+    EXPECT_EQ(eula->toPlainText(), session->screen().at(u"txtEULA").text);
+
+    auto* copy = find<QPushButton>(QStringLiteral("cmdCopyWebInfo2ClipBoard_16"));
+    const QColor base = eula->palette().color(QPalette::Base);
+    QTest::mouseClick(copy, Qt::LeftButton);
+    QTest::mouseClick(copy, Qt::LeftButton);
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return eula->palette().color(QPalette::Base) == base; }, 2000));
+    QTest::qWait(400);
+    EXPECT_EQ(eula->palette().color(QPalette::Base), base);
+
+    const QString before = status();
+    ASSERT_FALSE(before.isEmpty());
+    window->statusBar()->showMessage(QString()); // what a menu's passing tip does
+    EXPECT_EQ(status(), before);
 }
