@@ -1,6 +1,7 @@
 #include "mainwindow/ControlBindingView.h"
 
 #include "mainwindow/ControlIcons.h"
+#include "mainwindow/ControlWidget.h"
 
 #include "mainwindow/EditingSession.h"
 #include "mainwindow/LinkLabelWidget.h"
@@ -49,38 +50,6 @@ QString fromEditor(const QString& text) {
     QString stored = text;
     stored.replace(u'\n', QStringLiteral("\r\n"));
     return stored;
-}
-
-// What a picture or a frame without a caption is called for a screen reader.
-QString unlabelledName(const ControlRow& row) {
-    static const QHash<QString, QString> names = {
-        {QStringLiteral("picBrevaro"), QStringLiteral("Brevaro homepage")},
-        {QStringLiteral("picQuorin"), QStringLiteral("Quorin homepage")},
-        {QStringLiteral("picClickNextBanner"), QStringLiteral("Next banner")},
-        {QStringLiteral("AniGifEx1"), QStringLiteral("Banner")},
-        {QStringLiteral("Frame9"), QStringLiteral("Expiry")},
-        {QStringLiteral("frmDescr1"), QStringLiteral("Descriptions")},
-        {QStringLiteral("frmCopyright"), QStringLiteral("Copyright")},
-        {QStringLiteral("frmDescriptions"), QStringLiteral("Description")},
-    };
-    if (row.name == QLatin1String("picASP"))
-        return row.index == 0 ? QStringLiteral("Association of Shareware Professionals")
-                              : QStringLiteral("About PAD files");
-    return names.value(row.name);
-}
-
-// The name a screen reader gives a control: its label, else its caption, else its tooltip.
-QString accessibleNameOf(const ControlRow& row) {
-    QString name = !row.label.isEmpty() ? row.label : row.caption;
-    if (name.isEmpty() || name == QLatin1String("-"))
-        name = row.toolTip;
-    if (name.isEmpty())
-        name = unlabelledName(row);
-    name.remove(u':');
-    name = name.trimmed();
-    if (row.place == Place::LanguagePage)
-        name += QStringLiteral(" (") + languageTabCaptions().value(row.index) + u')';
-    return name;
 }
 
 } // namespace
@@ -153,7 +122,10 @@ void ControlBindingView::create(int id) {
         m_actions.insert(id, a);
         return;
     }
-    QWidget* w = r.widget == WidgetType::Window ? m_window : createWidget(id, r);
+    QWidget* w = r.widget == WidgetType::Window ? m_window
+                                                : createControlWidget(r, m_session.screen().at(id));
+    if (qobject_cast<QComboBox*>(w))
+        w->installEventFilter(this);
     if (!w)
         return;
     if (w != m_window) {
@@ -174,99 +146,13 @@ void ControlBindingView::create(int id) {
                     [b, up = iconPath(r)] { b->setIcon(QIcon(up)); });
         }
     }
-    const QString name = accessibleNameOf(r);
+    const QString name = controlAccessibleName(r);
     if (!name.isEmpty() && w != m_window) {
         w->setAccessibleName(name);
         if (auto* c = qobject_cast<QComboBox*>(w); c && c->lineEdit())
             c->lineEdit()->setAccessibleName(name);
     }
     bindUserSignals(id, w);
-}
-
-QWidget* ControlBindingView::createWidget(int id, const ControlRow& r) {
-    const ControlState& s = m_session.screen().at(id);
-    switch (r.widget) {
-    case WidgetType::LineEdit: {
-        auto* e = new QLineEdit;
-        if (s.maxLength > 0)
-            e->setMaxLength(s.maxLength);
-        return e;
-    }
-    case WidgetType::MultiLineEdit: {
-        auto* e = new QPlainTextEdit;
-        e->setTabChangesFocus(true);
-        return e;
-    }
-    case WidgetType::EditableCombo:
-    case WidgetType::ListCombo: {
-        auto* c = new QComboBox;
-        c->setEditable(r.widget == WidgetType::EditableCombo);
-        c->setInsertPolicy(QComboBox::NoInsert);
-        c->setMaxVisibleItems(20);
-        c->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        c->setMinimumContentsLength(4);
-        if (c->lineEdit() && s.maxLength > 0)
-            c->lineEdit()->setMaxLength(s.maxLength);
-        // Typing is taken as typed, without completion from the list.
-        c->setCompleter(nullptr);
-        // The wheel changes an entry only once the box has been chosen.
-        c->setFocusPolicy(Qt::StrongFocus);
-        c->installEventFilter(this);
-        return c;
-    }
-    case WidgetType::MultiList: {
-        auto* l = new QListWidget;
-        l->setSelectionMode(QAbstractItemView::MultiSelection);
-        return l;
-    }
-    case WidgetType::CheckBox:
-        return new QCheckBox(r.caption);
-    case WidgetType::OptionButton: {
-        auto* b = new QRadioButton(r.caption);
-        // The model clears the other options of the array.
-        b->setAutoExclusive(false);
-        return b;
-    }
-    case WidgetType::PushButton:
-        return new QPushButton(r.caption);
-    case WidgetType::PictureButton: {
-        auto* b = new QToolButton;
-        b->setAutoRaise(true);
-        return b;
-    }
-    case WidgetType::Label: {
-        auto* l = new QLabel(r.caption);
-        l->setWordWrap(r.caption.size() > 60);
-        return l;
-    }
-    case WidgetType::LinkLabel:
-        return new LinkLabelWidget(r.caption);
-    case WidgetType::BannerImage: {
-        auto* l = new QLabel;
-        l->setCursor(Qt::PointingHandCursor);
-        return l;
-    }
-    case WidgetType::Frame:
-        return new QGroupBox(r.caption);
-    case WidgetType::TabStrip:
-        return new QTabWidget;
-    case WidgetType::StatusBar: {
-        // The text sits in a label of the bar, so a menu's passing tip does not erase it.
-        auto* bar = new QStatusBar;
-        auto* text = new QLabel;
-        text->setObjectName(QStringLiteral("StatusText"));
-        bar->addWidget(text, 1);
-        return bar;
-    }
-    case WidgetType::MenuTitle:
-        return new QMenu(r.caption);
-    case WidgetType::None:
-    case WidgetType::Window:
-    case WidgetType::MenuItem:
-    case WidgetType::MenuSeparator:
-        break;
-    }
-    return nullptr;
 }
 
 void ControlBindingView::bindUserSignals(int id, QWidget* w) {

@@ -46,7 +46,6 @@ protected:
 
 private:
     void create(int id);
-    QWidget* createWidget(int id, const ControlRow& row);
     void bindUserSignals(int id, QWidget* w);
     void repaint(int id, unsigned what);
     void repaintValue(int id, QWidget* w, unsigned what);
