@@ -4,6 +4,7 @@
 #include "mainwindow/ControlBindingView.h"
 #include "mainwindow/EditingSession.h"
 #include "mainwindow/MainWindow.h"
+#include "platform/SilentPrompts.h"
 #include "store/AppHome.h"
 #include "store/RecordStore.h"
 
@@ -19,23 +20,6 @@
 using namespace brevaro;
 
 namespace {
-
-// Answers every question the way a user keeping their data would, without showing anything.
-class QuietPrompts : public Prompts {
-public:
-    bool askYesNo(const QString&, const QString&, Icon) override { return true; }
-    std::optional<QString> inputBox(const QString&, const QString&, const QString&) override {
-        return std::nullopt;
-    }
-    std::optional<QString> openFile(const FileDialogSpec&) override { return std::nullopt; }
-    std::optional<QString> saveFile(const FileDialogSpec&) override { return std::nullopt; }
-    void message(const QString&, const QString&) override {}
-    void beep() override {}
-    QString clipboardText() override { return {}; }
-    void setClipboardText(const QString&) override {}
-    void openDocument(const QString&) override {}
-    void pumpEvents() override { QApplication::processEvents(); }
-};
 
 bool save(QWidget& w, const QString& dir, const char* name) {
     QTest::qWait(150);
@@ -59,7 +43,8 @@ int main(int argc, char* argv[]) {
     }
     const QString out = QString::fromLocal8Bit(argv[1]);
     QDir().mkpath(out);
-    QuietPrompts prompts;
+    // Answers yes, as a user keeping their data would.
+    SilentPrompts prompts(true);
     QTemporaryDir folder;
     const AppHome home(folder.path());
     home.createFolders();

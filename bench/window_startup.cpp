@@ -3,6 +3,7 @@
 // with 10,000 companies. Run: build/bin/window_startup [runs]  (under xvfb-run or offscreen).
 #include "mainwindow/EditingSession.h"
 #include "mainwindow/MainWindow.h"
+#include "platform/SilentPrompts.h"
 #include "records/CompanyRecord.h"
 #include "store/RecordStore.h"
 
@@ -19,22 +20,6 @@
 using namespace brevaro;
 
 namespace {
-
-class QuietPrompts : public Prompts {
-public:
-    bool askYesNo(const QString&, const QString&, Icon) override { return false; }
-    std::optional<QString> inputBox(const QString&, const QString&, const QString&) override {
-        return std::nullopt;
-    }
-    std::optional<QString> openFile(const FileDialogSpec&) override { return std::nullopt; }
-    std::optional<QString> saveFile(const FileDialogSpec&) override { return std::nullopt; }
-    void message(const QString&, const QString&) override {}
-    void beep() override {}
-    QString clipboardText() override { return {}; }
-    void setClipboardText(const QString&) override {}
-    void openDocument(const QString&) override {}
-    void pumpEvents() override {}
-};
 
 long residentKb() {
     QFile status(QStringLiteral("/proc/self/status"));
@@ -80,7 +65,7 @@ int child(int argc, char** argv, const QString& mode, const QString& homePath) {
         return app.exec();
     }
     RecordStore store{AppHome(homePath)};
-    QuietPrompts prompts;
+    SilentPrompts prompts;
     EditingSession session(store, prompts);
     MainWindow window(session);
     session.Start();

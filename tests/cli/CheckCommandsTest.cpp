@@ -16,13 +16,6 @@ using namespace brevaro::test;
 
 namespace {
 
-QStringList words(std::initializer_list<const char*> list) {
-    QStringList out;
-    for (const char* w : list)
-        out << QString::fromUtf8(w);
-    return out;
-}
-
 // A home holding the clean records as company 1, program 1, with the company name given.
 void storeClean(const TempHome& t, const char16_t* companyName = u"Smith Software") {
     CompanyRecord company = cleanCompany();

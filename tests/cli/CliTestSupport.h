@@ -23,4 +23,12 @@ inline CliResult runCliIn(const TempHome& t, QStringList args, const QByteArray&
     return r;
 }
 
+// Command-line words from plain strings.
+inline QStringList words(std::initializer_list<const char*> list) {
+    QStringList out;
+    for (const char* w : list)
+        out << QString::fromUtf8(w);
+    return out;
+}
+
 } // namespace brevaro::test

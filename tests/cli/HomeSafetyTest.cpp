@@ -16,13 +16,6 @@ using namespace brevaro::test;
 
 namespace {
 
-QStringList words(std::initializer_list<const char*> list) {
-    QStringList out;
-    for (const char* w : list)
-        out << QString::fromUtf8(w);
-    return out;
-}
-
 // Companies A and B; B has the program P.
 void twoCompanies(const TempHome& t) {
     ASSERT_EQ(runCliIn(t, words({"new-company", "A"})).status, 0);

@@ -12,13 +12,6 @@ using namespace brevaro::test;
 
 namespace {
 
-QStringList words(std::initializer_list<const char*> list) {
-    QStringList out;
-    for (const char* w : list)
-        out << QString::fromUtf8(w);
-    return out;
-}
-
 void companyWithProgram(const TempHome& t) {
     ASSERT_EQ(runCliIn(t, words({"new-company", "Acme"})).status, 0);
     ASSERT_EQ(runCliIn(t, words({"new-program", "-c", "Acme", "Widget"})).status, 0);

@@ -12,13 +12,6 @@ using namespace brevaro::test;
 
 namespace {
 
-QStringList words(std::initializer_list<const char*> list) {
-    QStringList out;
-    for (const char* w : list)
-        out << QString::fromUtf8(w);
-    return out;
-}
-
 // A home holding the full records as company 1, program 1.
 void storeFull(const TempHome& t) {
     RecordStore store(t.home());

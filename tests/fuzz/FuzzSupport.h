@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/SilentPrompts.h"
+
 #include "platform/Prompts.h"
 
 #include <QCoreApplication>
@@ -32,22 +34,5 @@ inline QString inputFile(const char* name, const uint8_t* data, std::size_t size
 inline QByteArray bytesOf(const uint8_t* data, std::size_t size) {
     return QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
 }
-
-// Says no to everything and keeps nothing.
-class SilentPrompts : public Prompts {
-public:
-    bool askYesNo(const QString&, const QString&, Icon) override { return false; }
-    std::optional<QString> inputBox(const QString&, const QString&, const QString&) override {
-        return std::nullopt;
-    }
-    std::optional<QString> openFile(const FileDialogSpec&) override { return std::nullopt; }
-    std::optional<QString> saveFile(const FileDialogSpec&) override { return std::nullopt; }
-    void message(const QString&, const QString&) override {}
-    void beep() override {}
-    QString clipboardText() override { return QString(); }
-    void setClipboardText(const QString&) override {}
-    void openDocument(const QString&) override {}
-    void pumpEvents() override {}
-};
 
 } // namespace brevaro::fuzz

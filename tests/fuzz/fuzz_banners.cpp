@@ -5,7 +5,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
     using namespace brevaro;
-    static fuzz::SilentPrompts prompts;
+    static SilentPrompts prompts;
     static HttpTransfer* http = [] {
         fuzz::scratch();
         return new HttpTransfer;
