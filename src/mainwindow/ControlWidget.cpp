@@ -55,6 +55,16 @@ QString controlAccessibleName(const ControlRow& row) {
     name = name.trimmed();
     if (row.place == Place::LanguagePage)
         name += QStringLiteral(" (") + languageTabCaptions().value(row.index) + u')';
+    // The many buttons that act on a box (copy, browse, translate) say which box.
+    if (row.kind == ControlKind::Button && row.caption.isEmpty() && !row.target.isEmpty()) {
+        for (const ControlRow& box : mainWindowControls())
+            if (box.name == row.target && box.index <= 0) {
+                QString field = !box.label.isEmpty() ? box.label : row.target;
+                field.remove(u':');
+                name += QStringLiteral(": ") + field.trimmed();
+                break;
+            }
+    }
     return name;
 }
 
