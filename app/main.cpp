@@ -13,28 +13,58 @@
 
 using namespace brevaro;
 
-int main(int argc, char* argv[]) {
-    QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("brevaro"));
-    QApplication::setApplicationVersion(
-        QStringLiteral("%1.%2.%3").arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision));
-    QGuiApplication::setDesktopFileName(QStringLiteral("io.github.brevaro.Brevaro"));
+namespace {
 
-    QCommandLineParser parser;
+void describe() {
+    QCoreApplication::setApplicationName(QStringLiteral("brevaro"));
+    QCoreApplication::setApplicationVersion(
+        QStringLiteral("%1.%2.%3").arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision));
+}
+
+// The options of the window's command line.
+void addOptions(QCommandLineParser& parser, const QCommandLineOption& home) {
     parser.setApplicationDescription(
         QStringLiteral("Keeps your companies and programs and writes their PAD files."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption homeOption(
+    parser.addOption(home);
+}
+
+QCommandLineOption homeOption() {
+    return QCommandLineOption(
         QStringLiteral("home"),
         QStringLiteral("The folder that holds the data (else $BREVARO_HOME, a data folder beside "
                        "the program, or ~/.local/share/brevaro)."),
         QStringLiteral("DIR"));
-    parser.addOption(homeOption);
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    // --help and --version answer on the terminal, also where no display is available.
+    for (int i = 1; i < argc; ++i) {
+        const QByteArray arg(argv[i]);
+        if (arg == "--help" || arg == "-h" || arg == "--help-all" || arg == "--version" ||
+            arg == "-v") {
+            QCoreApplication core(argc, argv);
+            describe();
+            QCommandLineParser parser;
+            QCommandLineOption homeOpt = homeOption();
+            addOptions(parser, homeOpt);
+            parser.process(core);
+            return 0;
+        }
+    }
+    QApplication app(argc, argv);
+    describe();
+    QGuiApplication::setDesktopFileName(QStringLiteral("io.github.brevaro.Brevaro"));
+    QCommandLineParser parser;
+    QCommandLineOption homeOpt = homeOption();
+    addOptions(parser, homeOpt);
     parser.process(app);
 
     const AppHome home =
-        AppHome::resolve(parser.value(homeOption), QCoreApplication::applicationDirPath());
+        AppHome::resolve(parser.value(homeOpt), QCoreApplication::applicationDirPath());
     // One writer per home: a second window on the same data would overwrite the first's saves.
     HomeLock lock(home);
     QString busy;

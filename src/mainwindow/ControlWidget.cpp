@@ -92,7 +92,8 @@ QWidget* createControlWidget(const ControlRow& r, const ControlState& s) {
         if (c->lineEdit() && s.maxLength > 0)
             c->lineEdit()->setMaxLength(s.maxLength);
         // Typing is taken as typed, without completion from the list.
-        c->setCompleter(nullptr);
+        if (c->isEditable())
+            c->setCompleter(nullptr);
         // The wheel changes an entry only once the box has been chosen.
         c->setFocusPolicy(Qt::StrongFocus);
         return c;
