@@ -32,23 +32,108 @@ const std::array<CharClass, 128>& asciiClasses() {
 
 constexpr qsizetype kLongestStopWord = 9;
 
+const char* const kStopWordList =
+    "a able add after again age ages align all allows also am an and any anything are at "
+    "been border both but by can comments div down else etc few following for from fully "
+    "get getting give go got had has have having help helps here how href i if in into "
+    "input is it its key keys know like lost made make many me more must my no not now of "
+    "off on one or other our out own page pages rated remove return same save see select "
+    "sent some sometime sorry such take tell thank thanks that the their them then thing "
+    "things this through to top under up us use uses using via want was we when where "
+    "which who will wish with within without worked year years yet you your";
+
 const QSet<QString>& stopWords() {
     static const QSet<QString> words = [] {
-        const char* list =
-            "a able add after again age ages align all allows also am an and any anything are at "
-            "been border both but by can comments div down else etc few following for from fully "
-            "get getting give go got had has have having help helps here how href i if in into "
-            "input is it its key keys know like lost made make many me more must my no not now of "
-            "off on one or other our out own page pages rated remove return same save see select "
-            "sent some sometime sorry such take tell thank thanks that the their them then thing "
-            "things this through to top under up us use uses using via want was we when where "
-            "which who will wish with within without worked year years yet you your";
         QSet<QString> set;
-        for (const QString& w : QString::fromLatin1(list).split(u' '))
+        for (const QString& w : QString::fromLatin1(kStopWordList).split(u' '))
             set.insert(w);
         return set;
     }();
     return words;
+}
+
+// A word of at most nine letters a to z packed into five bits a letter; 0 is no letter.
+constexpr quint64 kNotPacked = ~quint64(0);
+
+// The stop words packed, sorted.
+const std::vector<quint64>& packedStopWords() {
+    static const std::vector<quint64> keys = [] {
+        std::vector<quint64> v;
+        quint64 key = 0;
+        int at = 0;
+        for (const char* p = kStopWordList;; ++p) {
+            if (*p == ' ' || *p == 0) {
+                v.push_back(key);
+                key = 0;
+                at = 0;
+                if (*p == 0)
+                    break;
+            } else {
+                key |= quint64(*p - 'a' + 1) << (5 * at++);
+            }
+        }
+        std::sort(v.begin(), v.end());
+        return v;
+    }();
+    return keys;
+}
+
+// Whether word, as cleaned and before trimming, is a stop word, case ignored. Words of plain
+// ASCII are answered without building a string; others take the full lower-casing.
+bool isStopWord(QStringView word) {
+    if (word.size() > kLongestStopWord)
+        return false;
+    quint64 key = 0;
+    for (qsizetype i = 0; i < word.size(); ++i) {
+        char16_t c = word[i].unicode();
+        if (c >= 128)
+            return stopWords().contains(word.toString().toLower());
+        if (c >= u'A' && c <= u'Z')
+            c += 32;
+        // Lower-casing keeps any other ASCII character, and no stop word has one.
+        if (c < u'a' || c > u'z')
+            return false;
+        key |= quint64(c - u'a' + 1) << (5 * i);
+    }
+    const auto& keys = packedStopWords();
+    return std::binary_search(keys.begin(), keys.end(), key);
+}
+
+// Copies the kept characters of piece to out, which has room for all of piece; how many,
+// or -1 when a character rejects the word.
+qsizetype keptCharacters(QStringView piece, char16_t* out) {
+    const auto& classes = asciiClasses();
+    qsizetype n = 0;
+    for (QChar c : piece) {
+        const char16_t u = c.unicode();
+        const CharClass k = u < 128 ? classes[u] : (u == 0x00A9 ? kRemove : kKeep);
+        if (k == kReject)
+            return -1;
+        if (k == kKeep)
+            out[n++] = u;
+    }
+    return n;
+}
+
+QStringView withoutBlanks(QStringView text) {
+    qsizetype begin = 0;
+    qsizetype end = text.size();
+    while (begin < end && text[begin] == u' ')
+        ++begin;
+    while (end > begin && text[end - 1] == u' ')
+        --end;
+    return text.sliced(begin, end - begin);
+}
+
+// Simple case folding, character by character, into out.
+void foldInto(QStringView word, char16_t* out) {
+    for (qsizetype i = 0; i < word.size(); ++i) {
+        const char16_t c = word[i].unicode();
+        if (c < 128)
+            out[i] = c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c;
+        else
+            out[i] = word[i].toCaseFolded().unicode();
+    }
 }
 
 QString folded(QStringView word) {
@@ -72,29 +157,21 @@ KeywordList::KeywordList() {
 
 void KeywordList::clear() {
     m_entries.clear();
-    m_folded.clear();
     m_nodes.assign(1, Node{});
     m_edges.clear();
     m_entryNode.clear();
+    m_deep.clear();
     m_knownPrefixes.clear();
     m_sortColumn = 1;
 }
 
 QString KeywordList::CleanWord(QStringView piece) {
-    const auto& classes = asciiClasses();
     QString word(piece.size(), Qt::Uninitialized);
-    QChar* out = word.data();
-    qsizetype n = 0;
-    for (QChar c : piece) {
-        const char16_t u = c.unicode();
-        const CharClass k = u < 128 ? classes[u] : (u == 0x00A9 ? kRemove : kKeep);
-        if (k == kReject)
-            return QString();
-        if (k == kKeep)
-            out[n++] = c;
-    }
+    const qsizetype n = keptCharacters(piece, reinterpret_cast<char16_t*>(word.data()));
+    if (n < 0)
+        return QString();
     word.truncate(n);
-    if (n <= kLongestStopWord && stopWords().contains(word.toLower()))
+    if (isStopWord(word))
         return QString();
     return trimBlanks(word);
 }
@@ -107,59 +184,55 @@ bool KeywordList::beats(int a, int b) const {
     return x.count > y.count || (x.count == y.count && x.firstSeen < y.firstSeen);
 }
 
-int KeywordList::nodeFor(int parent, char16_t c, bool create) {
-    const quint64 key = (quint64(parent) << 16) | c;
-    const auto found = m_edges.find(key);
-    if (found != m_edges.end())
-        return found->second;
-    if (!create)
-        return -1;
-    m_nodes.push_back(Node{parent, -1, {}});
-    const int id = static_cast<int>(m_nodes.size() - 1);
-    m_edges.emplace(key, id);
-    return id;
-}
-
 int KeywordList::findEntry(QStringView word) const {
-    int node = -1;
+    quint64 hash = 0;
     if (word.size() <= kTreeDepth) {
-        const auto known = m_knownPrefixes.constFind(word.toString());
-        if (known != m_knownPrefixes.constEnd())
-            return m_nodes[std::size_t(*known)].best;
+        hash = FoldedWordTable::hashOf(word);
+        const int known = m_knownPrefixes.find(word, hash);
+        if (known >= 0)
+            return m_nodes[std::size_t(known)].best;
     }
-    node = 0;
+    int node = 0;
     const qsizetype depth = std::min<qsizetype>(word.size(), kTreeDepth);
     for (qsizetype i = 0; i < depth; ++i) {
-        const auto found = m_edges.find((quint64(node) << 16) | word[i].unicode());
-        if (found == m_edges.end())
+        node = m_edges.find(EdgeTable::keyOf(node, word[i].unicode()));
+        if (node < 0)
             return -1;
-        node = found->second;
     }
     if (word.size() <= kTreeDepth) {
-        m_knownPrefixes.insert(word.toString(), node);
+        m_knownPrefixes.insert(word, hash, node);
         return m_nodes[std::size_t(node)].best;
     }
     int best = -1;
-    for (int e : m_nodes[std::size_t(node)].deep)
-        if (QStringView(m_folded[std::size_t(e)]).startsWith(word) && beats(e, best))
-            best = e;
+    const auto deep = m_deep.find(node);
+    if (deep != m_deep.end())
+        for (const DeepEntry& d : deep->second)
+            if (QStringView(d.folded).startsWith(word) && beats(d.entry, best))
+                best = d.entry;
     return best;
 }
 
-void KeywordList::addToTree(int entry, const QString& word) {
+void KeywordList::addToTree(int entry, QStringView word) {
     int node = 0;
     if (beats(entry, m_nodes[0].best))
         m_nodes[0].best = entry;
     const qsizetype depth = std::min<qsizetype>(word.size(), kTreeDepth);
     for (qsizetype i = 0; i < depth; ++i) {
-        node = nodeFor(node, word[i].unicode(), true);
+        const quint64 key = EdgeTable::keyOf(node, word[i].unicode());
+        int child = m_edges.find(key);
+        if (child < 0) {
+            m_nodes.push_back(Node{node, -1});
+            child = static_cast<int>(m_nodes.size() - 1);
+            m_edges.insert(key, child);
+        }
+        node = child;
         if (beats(entry, m_nodes[std::size_t(node)].best))
             m_nodes[std::size_t(node)].best = entry;
     }
     if (word.size() > kTreeDepth)
-        m_nodes[std::size_t(node)].deep.push_back(entry);
+        m_deep[node].push_back({entry, word.toString()});
     else
-        m_knownPrefixes.insert(word, node);
+        m_knownPrefixes.insert(word, FoldedWordTable::hashOf(word), node);
     m_entryNode.push_back(node);
 }
 
@@ -177,10 +250,21 @@ void KeywordList::raiseInTree(int entry) {
 }
 
 void KeywordList::CountWord(QStringView piece) {
-    const QString word = CleanWord(piece);
+    if (m_cleaned.size() < std::size_t(piece.size())) {
+        m_cleaned.resize(std::size_t(piece.size()));
+        m_folded.resize(std::size_t(piece.size()));
+    }
+    const qsizetype kept = keptCharacters(piece, m_cleaned.data());
+    if (kept <= 0)
+        return;
+    QStringView word(m_cleaned.data(), kept);
+    if (isStopWord(word))
+        return;
+    word = withoutBlanks(word);
     if (word.isEmpty())
         return;
-    const QString key = folded(word);
+    foldInto(word, m_folded.data());
+    const QStringView key(m_folded.data(), word.size());
     const int found = findEntry(key);
     if (found >= 0) {
         ++m_entries[std::size_t(found)].count;
@@ -188,8 +272,7 @@ void KeywordList::CountWord(QStringView piece) {
         return;
     }
     const int entry = static_cast<int>(m_entries.size());
-    m_entries.push_back({word, 1, false, entry});
-    m_folded.push_back(key);
+    m_entries.push_back({word.toString(), 1, false, entry});
     addToTree(entry, key);
 }
 
@@ -200,7 +283,7 @@ void KeywordList::SplitWords(QStringView buffer, const std::function<void()>& pu
         const qsizetype blank = buffer.indexOf(u' ', start);
         if (blank < 0)
             break;
-        CountWord(trimBlanks(buffer.sliced(start, blank - start + 1)));
+        CountWord(withoutBlanks(buffer.sliced(start, blank - start + 1)));
         start = blank + 1;
         if (pump && ++counted % 4096 == 0)
             pump();

@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QHash>
+#include "keywords/EdgeTable.h"
+#include "keywords/FoldedWordTable.h"
+
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -54,23 +56,30 @@ public:
 private:
     struct Node {
         int parent = -1;
-        int best = -1;         // entry with the highest count in this subtree, earliest on a tie
-        std::vector<int> deep; // entries longer than the tree's depth that end below here
+        int best = -1; // entry with the highest count in this subtree, earliest on a tie
+    };
+    // An entry longer than the tree's depth, with its folded word.
+    struct DeepEntry {
+        int entry;
+        QString folded;
     };
     bool beats(int a, int b) const;
-    int nodeFor(int parent, char16_t c, bool create);
     int findEntry(QStringView folded) const;
-    void addToTree(int entry, const QString& folded);
+    void addToTree(int entry, QStringView folded);
     void raiseInTree(int entry);
     std::vector<int> order() const;
 
     std::vector<KeywordEntry> m_entries;
-    std::vector<QString> m_folded;
     std::vector<Node> m_nodes;
-    std::unordered_map<quint64, int> m_edges;
+    EdgeTable m_edges;
     std::vector<int> m_entryNode;
+    // Entries longer than the tree's depth, by the node at that depth they end below.
+    std::unordered_map<int, std::vector<DeepEntry>> m_deep;
     // Words met before map straight to their node, so a repeated word is one lookup.
-    mutable QHash<QString, int> m_knownPrefixes;
+    mutable FoldedWordTable m_knownPrefixes;
+    // Scratch space for the word being counted: cleaned, then case-folded.
+    std::vector<char16_t> m_cleaned;
+    std::vector<char16_t> m_folded;
     int m_sortColumn = 1;
 };
 
