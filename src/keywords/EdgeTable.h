@@ -49,6 +49,14 @@ public:
         ++m_size;
     }
 
+    // Points a link that is there at another child.
+    void replace(quint64 key, int child) {
+        std::size_t i = slotOf(key);
+        while (m_slots[i].key != key)
+            i = (i + 1) & mask();
+        m_slots[i].child = child;
+    }
+
 private:
     struct Slot {
         quint64 key;

@@ -11,8 +11,6 @@ namespace brevaro {
 
 namespace {
 
-// Words longer than this share the node at this depth and are compared one by one.
-constexpr int kTreeDepth = 48;
 constexpr int kMaxKeywords = 128;
 
 enum CharClass : unsigned char { kKeep, kRemove, kReject };
@@ -160,7 +158,7 @@ void KeywordList::clear() {
     m_nodes.assign(1, Node{});
     m_edges.clear();
     m_entryNode.clear();
-    m_deep.clear();
+    m_keys.clear();
     m_knownPrefixes.clear();
     m_sortColumn = 1;
 }
@@ -184,56 +182,78 @@ bool KeywordList::beats(int a, int b) const {
     return x.count > y.count || (x.count == y.count && x.firstSeen < y.firstSeen);
 }
 
-int KeywordList::findEntry(QStringView word) const {
-    quint64 hash = 0;
-    if (word.size() <= kTreeDepth) {
-        hash = FoldedWordTable::hashOf(word);
-        const int known = m_knownPrefixes.find(word, hash);
-        if (known >= 0)
-            return m_nodes[std::size_t(known)].best;
+int KeywordList::findEntry(QStringView word, Miss* miss) const {
+    const quint64 hash = FoldedWordTable::hashOf(word);
+    int known = m_knownPrefixes.find(word, hash);
+    if (known >= 0) {
+        // An edge split since may have put a node for a shorter prefix above the one kept.
+        for (int up = m_nodes[std::size_t(known)].parent;
+             up >= 0 && m_nodes[std::size_t(up)].depth >= word.size();
+             up = m_nodes[std::size_t(up)].parent)
+            known = up;
+        return m_nodes[std::size_t(known)].best;
     }
     int node = 0;
-    const qsizetype depth = std::min<qsizetype>(word.size(), kTreeDepth);
-    for (qsizetype i = 0; i < depth; ++i) {
-        node = m_edges.find(EdgeTable::keyOf(node, word[i].unicode()));
-        if (node < 0)
+    qsizetype pos = 0;
+    while (pos < word.size()) {
+        const int child = m_edges.find(EdgeTable::keyOf(node, word[pos].unicode()));
+        if (child < 0) {
+            if (miss)
+                *miss = {node, pos, -1, 0};
             return -1;
+        }
+        const Node& c = m_nodes[std::size_t(child)];
+        const char16_t* label = m_keys.data() + c.labelStart;
+        const qsizetype room = std::min<qsizetype>(c.labelLength, word.size() - pos);
+        qsizetype matched = 1;
+        while (matched < room && label[matched] == word[pos + matched].unicode())
+            ++matched;
+        if (matched < room) {
+            if (miss)
+                *miss = {node, pos, child, matched};
+            return -1;
+        }
+        // Either the whole edge matched, or the word ends on it and child's entries all
+        // begin with it.
+        node = child;
+        pos += matched;
     }
-    if (word.size() <= kTreeDepth) {
-        m_knownPrefixes.insert(word, hash, node);
-        return m_nodes[std::size_t(node)].best;
-    }
-    int best = -1;
-    const auto deep = m_deep.find(node);
-    if (deep != m_deep.end())
-        for (const DeepEntry& d : deep->second)
-            if (QStringView(d.folded).startsWith(word) && beats(d.entry, best))
-                best = d.entry;
-    return best;
+    m_knownPrefixes.insert(word, hash, node);
+    return m_nodes[std::size_t(node)].best;
 }
 
-void KeywordList::addToTree(int entry, QStringView word) {
-    int node = 0;
-    if (beats(entry, m_nodes[0].best))
+// A new entry has the lowest count and came last, so it takes over no existing node: only
+// the nodes made for it (and the root of an empty list) get it as their best.
+void KeywordList::addToTree(int entry, QStringView word, const Miss& miss) {
+    const auto start = quint32(m_keys.size());
+    m_keys.insert(m_keys.end(), word.utf16(), word.utf16() + word.size());
+    if (m_nodes[0].best < 0)
         m_nodes[0].best = entry;
-    const qsizetype depth = std::min<qsizetype>(word.size(), kTreeDepth);
-    for (qsizetype i = 0; i < depth; ++i) {
-        const quint64 key = EdgeTable::keyOf(node, word[i].unicode());
-        int child = m_edges.find(key);
-        if (child < 0) {
-            m_nodes.push_back(Node{node, -1});
-            child = static_cast<int>(m_nodes.size() - 1);
-            m_edges.insert(key, child);
-        }
-        node = child;
-        if (beats(entry, m_nodes[std::size_t(node)].best))
-            m_nodes[std::size_t(node)].best = entry;
+    int parent = miss.node;
+    qsizetype pos = miss.pos;
+    if (miss.child >= 0) {
+        // Split the edge into the child where the word leaves it.
+        const int child = miss.child;
+        const int matched = static_cast<int>(miss.matched);
+        const Node old = m_nodes[std::size_t(child)];
+        const int middle = static_cast<int>(m_nodes.size());
+        m_nodes.push_back(Node{parent, old.best, old.labelStart, matched,
+                               m_nodes[std::size_t(parent)].depth + matched});
+        m_edges.replace(EdgeTable::keyOf(parent, word[pos].unicode()), middle);
+        Node& lower = m_nodes[std::size_t(child)];
+        lower.parent = middle;
+        lower.labelStart += quint32(matched);
+        lower.labelLength -= matched;
+        m_edges.insert(EdgeTable::keyOf(middle, m_keys[lower.labelStart]), child);
+        parent = middle;
+        pos += matched;
     }
-    if (word.size() > kTreeDepth)
-        m_deep[node].push_back({entry, word.toString()});
-    else
-        m_knownPrefixes.insert(word, FoldedWordTable::hashOf(word), node);
-    m_entryNode.push_back(node);
+    const int leaf = static_cast<int>(m_nodes.size());
+    m_nodes.push_back(Node{parent, entry, start + quint32(pos), static_cast<int>(word.size() - pos),
+                           static_cast<int>(word.size())});
+    m_edges.insert(EdgeTable::keyOf(parent, word[pos].unicode()), leaf);
+    m_knownPrefixes.insert(word, FoldedWordTable::hashOf(word), leaf);
+    m_entryNode.push_back(leaf);
 }
 
 // A count only grows, so the entry can only take over nodes on its own path; and where it
@@ -265,7 +285,8 @@ void KeywordList::CountWord(QStringView piece) {
         return;
     foldInto(word, m_folded.data());
     const QStringView key(m_folded.data(), word.size());
-    const int found = findEntry(key);
+    Miss miss;
+    const int found = findEntry(key, &miss);
     if (found >= 0) {
         ++m_entries[std::size_t(found)].count;
         raiseInTree(found);
@@ -273,7 +294,7 @@ void KeywordList::CountWord(QStringView piece) {
     }
     const int entry = static_cast<int>(m_entries.size());
     m_entries.push_back({word.toString(), 1, false, entry});
-    addToTree(entry, key);
+    addToTree(entry, key, miss);
 }
 
 void KeywordList::SplitWords(QStringView buffer, const std::function<void()>& pump) {

@@ -6,7 +6,6 @@
 #include <QString>
 #include <QStringList>
 #include <functional>
-#include <unordered_map>
 #include <vector>
 
 namespace brevaro {
@@ -54,18 +53,27 @@ public:
     void setTicked(int index, bool ticked);
 
 private:
+    // A node of the prefix tree. The edge into it is labelled with labelLength folded
+    // characters at labelStart in m_keys; the node stands for the first depth characters.
     struct Node {
         int parent = -1;
         int best = -1; // entry with the highest count in this subtree, earliest on a tie
+        quint32 labelStart = 0;
+        int labelLength = 0;
+        int depth = 0;
     };
-    // An entry longer than the tree's depth, with its folded word.
-    struct DeepEntry {
-        int entry;
-        QString folded;
+    // Where the search for a word that no entry begins with left the tree: below node after
+    // pos characters, and when child >= 0 part way along the edge into child, after matched
+    // further characters.
+    struct Miss {
+        int node = 0;
+        qsizetype pos = 0;
+        int child = -1;
+        qsizetype matched = 0;
     };
     bool beats(int a, int b) const;
-    int findEntry(QStringView folded) const;
-    void addToTree(int entry, QStringView folded);
+    int findEntry(QStringView folded, Miss* miss = nullptr) const;
+    void addToTree(int entry, QStringView folded, const Miss& miss);
     void raiseInTree(int entry);
     std::vector<int> order() const;
 
@@ -73,8 +81,8 @@ private:
     std::vector<Node> m_nodes;
     EdgeTable m_edges;
     std::vector<int> m_entryNode;
-    // Entries longer than the tree's depth, by the node at that depth they end below.
-    std::unordered_map<int, std::vector<DeepEntry>> m_deep;
+    // The folded words of the entries, back to back; the edge labels point into it.
+    std::vector<char16_t> m_keys;
     // Words met before map straight to their node, so a repeated word is one lookup.
     mutable FoldedWordTable m_knownPrefixes;
     // Scratch space for the word being counted: cleaned, then case-folded.
