@@ -40,13 +40,13 @@ public:
 
     // The node of word (hashed by hashOf), or -1.
     int find(QStringView word, quint64 hash) const {
+        const auto length = quint32(word.size());
         for (std::size_t i = slotOf(hash);; i = (i + 1) & mask()) {
             const Slot& s = m_slots[i];
             if (s.node < 0)
                 return -1;
-            if (s.hash == hash && s.length == quint32(word.size()) &&
-                std::memcmp(m_chars.data() + s.offset, word.utf16(),
-                            std::size_t(word.size()) * sizeof(char16_t)) == 0)
+            if (s.hash == hash && s.length == length &&
+                std::memcmp(charsOf(s), word.utf16(), length * sizeof(char16_t)) == 0)
                 return s.node;
         }
     }
@@ -55,19 +55,37 @@ public:
     void insert(QStringView word, quint64 hash, int node) {
         if (2 * (m_size + 1) > m_slots.size())
             rebuild(m_bits + 1);
-        const auto offset = quint32(m_chars.size());
-        m_chars.insert(m_chars.end(), word.utf16(), word.utf16() + word.size());
-        place({hash, offset, quint32(word.size()), node});
+        Slot slot;
+        slot.hash = hash;
+        slot.length = quint32(word.size());
+        slot.node = node;
+        if (word.size() <= kInline) {
+            std::memcpy(slot.chars, word.utf16(), std::size_t(word.size()) * sizeof(char16_t));
+        } else {
+            slot.offset = quint32(m_chars.size());
+            m_chars.insert(m_chars.end(), word.utf16(), word.utf16() + word.size());
+        }
+        place(slot);
         ++m_size;
     }
 
 private:
-    struct Slot {
+    static constexpr qsizetype kInline = 8;
+    // Short words are kept in the slot itself, so that finding one reads one cache line.
+    struct alignas(32) Slot {
         quint64 hash = 0;
-        quint32 offset = 0;
-        quint32 length = 0;
         int node = -1;
+        quint32 length = 0;
+        union {
+            char16_t chars[kInline];
+            quint32 offset;
+        };
+        Slot()
+            : chars{} {}
     };
+    const char16_t* charsOf(const Slot& s) const {
+        return s.length <= kInline ? s.chars : m_chars.data() + s.offset;
+    }
     static constexpr quint64 kMul = 0x9E3779B97F4A7C15ull;
     static constexpr int kFirstBits = 10;
 

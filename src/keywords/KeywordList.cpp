@@ -155,6 +155,7 @@ KeywordList::KeywordList() {
 
 void KeywordList::clear() {
     m_entries.clear();
+    m_counts.clear();
     m_nodes.assign(1, Node{});
     m_edges.clear();
     m_entryNode.clear();
@@ -177,9 +178,10 @@ QString KeywordList::CleanWord(QStringView piece) {
 bool KeywordList::beats(int a, int b) const {
     if (b < 0)
         return true;
-    const auto& x = m_entries[std::size_t(a)];
-    const auto& y = m_entries[std::size_t(b)];
-    return x.count > y.count || (x.count == y.count && x.firstSeen < y.firstSeen);
+    const int x = m_counts[std::size_t(a)];
+    const int y = m_counts[std::size_t(b)];
+    // An entry's index is its order of first appearance.
+    return x > y || (x == y && a < b);
 }
 
 int KeywordList::findEntry(QStringView word, Miss* miss) const {
@@ -288,12 +290,13 @@ void KeywordList::CountWord(QStringView piece) {
     Miss miss;
     const int found = findEntry(key, &miss);
     if (found >= 0) {
-        ++m_entries[std::size_t(found)].count;
+        ++m_counts[std::size_t(found)];
         raiseInTree(found);
         return;
     }
     const int entry = static_cast<int>(m_entries.size());
-    m_entries.push_back({word.toString(), 1, false, entry});
+    m_entries.push_back({word.toString(), 0, false, entry});
+    m_counts.push_back(1);
     addToTree(entry, key, miss);
 }
 
@@ -337,9 +340,9 @@ int KeywordList::FindWord(QStringView word) const {
 }
 
 void KeywordList::CheckFrequentWords() {
-    for (auto& e : m_entries)
-        if (e.count > 2)
-            e.ticked = true;
+    for (std::size_t i = 0; i < m_entries.size(); ++i)
+        if (m_counts[i] > 2)
+            m_entries[i].ticked = true;
 }
 
 QString KeywordList::RebuildKeywords(const QString& current) const {
@@ -360,8 +363,10 @@ void KeywordList::sortByColumn(int column) {
 std::vector<KeywordEntry> KeywordList::entries() const {
     std::vector<KeywordEntry> out;
     out.reserve(m_entries.size());
-    for (int i : order())
+    for (int i : order()) {
         out.push_back(m_entries[std::size_t(i)]);
+        out.back().count = m_counts[std::size_t(i)];
+    }
     return out;
 }
 

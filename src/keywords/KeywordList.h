@@ -77,7 +77,10 @@ private:
     void raiseInTree(int entry);
     std::vector<int> order() const;
 
+    // The entries in order of first appearance; their counts are kept apart in m_counts,
+    // which the ranking reads for every counted word.
     std::vector<KeywordEntry> m_entries;
+    std::vector<int> m_counts;
     std::vector<Node> m_nodes;
     EdgeTable m_edges;
     std::vector<int> m_entryNode;
