@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <vector>
 
+#include "keywords/LargePageAllocator.h"
+
 namespace brevaro {
 
 // The child links of the keyword prefix tree, (parent node << 16 | character) to child node,
@@ -76,7 +78,7 @@ private:
         m_slots[i] = {key, child};
     }
     void rebuild(int bits) {
-        std::vector<Slot> old(std::size_t(1) << bits, Slot{kEmpty, -1});
+        std::vector<Slot, LargePageAllocator<Slot>> old(std::size_t(1) << bits, Slot{kEmpty, -1});
         old.swap(m_slots);
         m_bits = bits;
         for (const Slot& s : old)
@@ -84,7 +86,7 @@ private:
                 place(s.key, s.child);
     }
 
-    std::vector<Slot> m_slots;
+    std::vector<Slot, LargePageAllocator<Slot>> m_slots;
     std::size_t m_size = 0;
     int m_bits = kFirstBits;
 };

@@ -6,6 +6,8 @@
 #include <cstring>
 #include <vector>
 
+#include "keywords/LargePageAllocator.h"
+
 namespace brevaro {
 
 // Case-folded words met before, to their node in the keyword prefix tree, so that a repeated
@@ -98,7 +100,7 @@ private:
         m_slots[i] = slot;
     }
     void rebuild(int bits) {
-        std::vector<Slot> old(std::size_t(1) << bits);
+        std::vector<Slot, LargePageAllocator<Slot>> old(std::size_t(1) << bits);
         old.swap(m_slots);
         m_bits = bits;
         for (const Slot& s : old)
@@ -106,7 +108,7 @@ private:
                 place(s);
     }
 
-    std::vector<Slot> m_slots;
+    std::vector<Slot, LargePageAllocator<Slot>> m_slots;
     std::vector<char16_t> m_chars;
     std::size_t m_size = 0;
     int m_bits = kFirstBits;

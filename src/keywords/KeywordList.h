@@ -2,6 +2,7 @@
 
 #include "keywords/EdgeTable.h"
 #include "keywords/FoldedWordTable.h"
+#include "keywords/LargePageAllocator.h"
 
 #include <QString>
 #include <QStringList>
@@ -81,7 +82,7 @@ private:
     // which the ranking reads for every counted word.
     std::vector<KeywordEntry> m_entries;
     std::vector<int> m_counts;
-    std::vector<Node> m_nodes;
+    std::vector<Node, LargePageAllocator<Node>> m_nodes;
     EdgeTable m_edges;
     std::vector<int> m_entryNode;
     // The folded words of the entries, back to back; the edge labels point into it.
