@@ -47,8 +47,7 @@ public:
             const Slot& s = m_slots[i];
             if (s.node < 0)
                 return -1;
-            if (s.hash == hash && s.length == length &&
-                std::memcmp(charsOf(s), word.utf16(), length * sizeof(char16_t)) == 0)
+            if (s.hash == hash && s.length == length && sameChars(charsOf(s), word.utf16(), length))
                 return s.node;
         }
     }
@@ -85,6 +84,13 @@ private:
         Slot()
             : chars{} {}
     };
+    // The keys are short and their hashes already agree: a plain loop beats a call.
+    static bool sameChars(const char16_t* a, const char16_t* b, quint32 n) {
+        for (quint32 i = 0; i < n; ++i)
+            if (a[i] != b[i])
+                return false;
+        return true;
+    }
     const char16_t* charsOf(const Slot& s) const {
         return s.length <= kInline ? s.chars : m_chars.data() + s.offset;
     }

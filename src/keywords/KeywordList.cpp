@@ -50,18 +50,27 @@ const QSet<QString>& stopWords() {
     return words;
 }
 
-// A word of at most nine letters a to z packed into five bits a letter; 0 is no letter.
-constexpr quint64 kNotPacked = ~quint64(0);
+// A word of at most nine letters a to z is packed into five bits a letter, a = 1.
 
-// The stop words packed, sorted.
-const std::vector<quint64>& packedStopWords() {
-    static const std::vector<quint64> keys = [] {
-        std::vector<quint64> v;
+// The stop words packed, in a small table with open addressing; 0 marks a free slot.
+constexpr int kStopBits = 9;
+using StopTable = std::array<quint64, std::size_t(1) << kStopBits>;
+
+std::size_t stopSlot(quint64 key) {
+    return std::size_t((key * 0x9E3779B97F4A7C15ull) >> (64 - kStopBits));
+}
+
+const StopTable& packedStopWords() {
+    static const StopTable table = [] {
+        StopTable t{};
         quint64 key = 0;
         int at = 0;
         for (const char* p = kStopWordList;; ++p) {
             if (*p == ' ' || *p == 0) {
-                v.push_back(key);
+                std::size_t i = stopSlot(key);
+                while (t[i] != 0)
+                    i = (i + 1) % t.size();
+                t[i] = key;
                 key = 0;
                 at = 0;
                 if (*p == 0)
@@ -70,16 +79,15 @@ const std::vector<quint64>& packedStopWords() {
                 key |= quint64(*p - 'a' + 1) << (5 * at++);
             }
         }
-        std::sort(v.begin(), v.end());
-        return v;
+        return t;
     }();
-    return keys;
+    return table;
 }
 
 // Whether word, as cleaned and before trimming, is a stop word, case ignored. Words of plain
 // ASCII are answered without building a string; others take the full lower-casing.
 bool isStopWord(QStringView word) {
-    if (word.size() > kLongestStopWord)
+    if (word.isEmpty() || word.size() > kLongestStopWord)
         return false;
     quint64 key = 0;
     for (qsizetype i = 0; i < word.size(); ++i) {
@@ -93,8 +101,13 @@ bool isStopWord(QStringView word) {
             return false;
         key |= quint64(c - u'a' + 1) << (5 * i);
     }
-    const auto& keys = packedStopWords();
-    return std::binary_search(keys.begin(), keys.end(), key);
+    const StopTable& table = packedStopWords();
+    for (std::size_t i = stopSlot(key);; i = (i + 1) % table.size()) {
+        if (table[i] == key)
+            return true;
+        if (table[i] == 0)
+            return false;
+    }
 }
 
 // Copies the kept characters of piece to out, which has room for all of piece; how many,
@@ -301,6 +314,14 @@ void KeywordList::CountWord(QStringView piece) {
 }
 
 void KeywordList::SplitWords(QStringView buffer, const std::function<void()>& pump) {
+    if (m_entries.empty()) {
+        // Room for an entry in every few dozen characters, so a big page does not keep
+        // moving them.
+        const auto expected = std::size_t(buffer.size() / 64);
+        m_entries.reserve(expected);
+        m_counts.reserve(expected);
+        m_entryNode.reserve(expected);
+    }
     qsizetype start = 0;
     int counted = 0;
     while (true) {
