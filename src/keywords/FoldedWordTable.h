@@ -115,7 +115,7 @@ private:
     }
 
     std::vector<Slot, LargePageAllocator<Slot>> m_slots;
-    std::vector<char16_t> m_chars;
+    std::vector<char16_t, LargePageAllocator<char16_t>> m_chars;
     std::size_t m_size = 0;
     int m_bits = kFirstBits;
 };

@@ -80,13 +80,13 @@ private:
 
     // The entries in order of first appearance; their counts are kept apart in m_counts,
     // which the ranking reads for every counted word.
-    std::vector<KeywordEntry> m_entries;
-    std::vector<int> m_counts;
+    std::vector<KeywordEntry, LargePageAllocator<KeywordEntry>> m_entries;
+    std::vector<int, LargePageAllocator<int>> m_counts;
     std::vector<Node, LargePageAllocator<Node>> m_nodes;
     EdgeTable m_edges;
-    std::vector<int> m_entryNode;
+    std::vector<int, LargePageAllocator<int>> m_entryNode;
     // The folded words of the entries, back to back; the edge labels point into it.
-    std::vector<char16_t> m_keys;
+    std::vector<char16_t, LargePageAllocator<char16_t>> m_keys;
     // Words met before map straight to their node, so a repeated word is one lookup.
     mutable FoldedWordTable m_knownPrefixes;
     // Scratch space for the word being counted: cleaned, then case-folded.
