@@ -11,8 +11,6 @@ namespace brevaro {
 
 namespace {
 
-// Words longer than this share the node at this depth and are compared one by one.
-constexpr int kTreeDepth = 48;
 constexpr int kMaxKeywords = 128;
 
 enum CharClass : unsigned char { kKeep, kRemove, kReject };
@@ -32,23 +30,121 @@ const std::array<CharClass, 128>& asciiClasses() {
 
 constexpr qsizetype kLongestStopWord = 9;
 
+const char* const kStopWordList =
+    "a able add after again age ages align all allows also am an and any anything are at "
+    "been border both but by can comments div down else etc few following for from fully "
+    "get getting give go got had has have having help helps here how href i if in into "
+    "input is it its key keys know like lost made make many me more must my no not now of "
+    "off on one or other our out own page pages rated remove return same save see select "
+    "sent some sometime sorry such take tell thank thanks that the their them then thing "
+    "things this through to top under up us use uses using via want was we when where "
+    "which who will wish with within without worked year years yet you your";
+
 const QSet<QString>& stopWords() {
     static const QSet<QString> words = [] {
-        const char* list =
-            "a able add after again age ages align all allows also am an and any anything are at "
-            "been border both but by can comments div down else etc few following for from fully "
-            "get getting give go got had has have having help helps here how href i if in into "
-            "input is it its key keys know like lost made make many me more must my no not now of "
-            "off on one or other our out own page pages rated remove return same save see select "
-            "sent some sometime sorry such take tell thank thanks that the their them then thing "
-            "things this through to top under up us use uses using via want was we when where "
-            "which who will wish with within without worked year years yet you your";
         QSet<QString> set;
-        for (const QString& w : QString::fromLatin1(list).split(u' '))
+        for (const QString& w : QString::fromLatin1(kStopWordList).split(u' '))
             set.insert(w);
         return set;
     }();
     return words;
+}
+
+// A word of at most nine letters a to z is packed into five bits a letter, a = 1.
+
+// The stop words packed, in a small table with open addressing; 0 marks a free slot.
+constexpr int kStopBits = 9;
+using StopTable = std::array<quint64, std::size_t(1) << kStopBits>;
+
+std::size_t stopSlot(quint64 key) {
+    return std::size_t((key * 0x9E3779B97F4A7C15ull) >> (64 - kStopBits));
+}
+
+const StopTable& packedStopWords() {
+    static const StopTable table = [] {
+        StopTable t{};
+        quint64 key = 0;
+        int at = 0;
+        for (const char* p = kStopWordList;; ++p) {
+            if (*p == ' ' || *p == 0) {
+                std::size_t i = stopSlot(key);
+                while (t[i] != 0)
+                    i = (i + 1) % t.size();
+                t[i] = key;
+                key = 0;
+                at = 0;
+                if (*p == 0)
+                    break;
+            } else {
+                key |= quint64(*p - 'a' + 1) << (5 * at++);
+            }
+        }
+        return t;
+    }();
+    return table;
+}
+
+// Whether word, as cleaned and before trimming, is a stop word, case ignored. Words of plain
+// ASCII are answered without building a string; others take the full lower-casing.
+bool isStopWord(QStringView word) {
+    if (word.isEmpty() || word.size() > kLongestStopWord)
+        return false;
+    quint64 key = 0;
+    for (qsizetype i = 0; i < word.size(); ++i) {
+        char16_t c = word[i].unicode();
+        if (c >= 128)
+            return stopWords().contains(word.toString().toLower());
+        if (c >= u'A' && c <= u'Z')
+            c += 32;
+        // Lower-casing keeps any other ASCII character, and no stop word has one.
+        if (c < u'a' || c > u'z')
+            return false;
+        key |= quint64(c - u'a' + 1) << (5 * i);
+    }
+    const StopTable& table = packedStopWords();
+    for (std::size_t i = stopSlot(key);; i = (i + 1) % table.size()) {
+        if (table[i] == key)
+            return true;
+        if (table[i] == 0)
+            return false;
+    }
+}
+
+// Copies the kept characters of piece to out, which has room for all of piece; how many,
+// or -1 when a character rejects the word.
+qsizetype keptCharacters(QStringView piece, char16_t* out) {
+    const auto& classes = asciiClasses();
+    qsizetype n = 0;
+    for (QChar c : piece) {
+        const char16_t u = c.unicode();
+        const CharClass k = u < 128 ? classes[u] : (u == 0x00A9 ? kRemove : kKeep);
+        if (k == kReject)
+            return -1;
+        if (k == kKeep)
+            out[n++] = u;
+    }
+    return n;
+}
+
+QStringView withoutBlanks(QStringView text) {
+    qsizetype begin = 0;
+    qsizetype end = text.size();
+    while (begin < end && text[begin] == u' ')
+        ++begin;
+    while (end > begin && text[end - 1] == u' ')
+        --end;
+    return text.sliced(begin, end - begin);
+}
+
+// Simple case folding, character by character, into out.
+void foldInto(QStringView word, char16_t* out) {
+    for (qsizetype i = 0; i < word.size(); ++i) {
+        const char16_t c = word[i].unicode();
+        if (c < 128)
+            out[i] = c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c;
+        else
+            out[i] = word[i].toCaseFolded().unicode();
+    }
 }
 
 QString folded(QStringView word) {
@@ -72,29 +168,22 @@ KeywordList::KeywordList() {
 
 void KeywordList::clear() {
     m_entries.clear();
-    m_folded.clear();
+    m_counts.clear();
     m_nodes.assign(1, Node{});
     m_edges.clear();
     m_entryNode.clear();
+    m_keys.clear();
     m_knownPrefixes.clear();
     m_sortColumn = 1;
 }
 
 QString KeywordList::CleanWord(QStringView piece) {
-    const auto& classes = asciiClasses();
     QString word(piece.size(), Qt::Uninitialized);
-    QChar* out = word.data();
-    qsizetype n = 0;
-    for (QChar c : piece) {
-        const char16_t u = c.unicode();
-        const CharClass k = u < 128 ? classes[u] : (u == 0x00A9 ? kRemove : kKeep);
-        if (k == kReject)
-            return QString();
-        if (k == kKeep)
-            out[n++] = c;
-    }
+    const qsizetype n = keptCharacters(piece, reinterpret_cast<char16_t*>(word.data()));
+    if (n < 0)
+        return QString();
     word.truncate(n);
-    if (n <= kLongestStopWord && stopWords().contains(word.toLower()))
+    if (isStopWord(word))
         return QString();
     return trimBlanks(word);
 }
@@ -102,65 +191,84 @@ QString KeywordList::CleanWord(QStringView piece) {
 bool KeywordList::beats(int a, int b) const {
     if (b < 0)
         return true;
-    const auto& x = m_entries[std::size_t(a)];
-    const auto& y = m_entries[std::size_t(b)];
-    return x.count > y.count || (x.count == y.count && x.firstSeen < y.firstSeen);
+    const int x = m_counts[std::size_t(a)];
+    const int y = m_counts[std::size_t(b)];
+    // An entry's index is its order of first appearance.
+    return x > y || (x == y && a < b);
 }
 
-int KeywordList::nodeFor(int parent, char16_t c, bool create) {
-    const quint64 key = (quint64(parent) << 16) | c;
-    const auto found = m_edges.find(key);
-    if (found != m_edges.end())
-        return found->second;
-    if (!create)
-        return -1;
-    m_nodes.push_back(Node{parent, -1, {}});
-    const int id = static_cast<int>(m_nodes.size() - 1);
-    m_edges.emplace(key, id);
-    return id;
-}
-
-int KeywordList::findEntry(QStringView word) const {
-    int node = -1;
-    if (word.size() <= kTreeDepth) {
-        const auto known = m_knownPrefixes.constFind(word.toString());
-        if (known != m_knownPrefixes.constEnd())
-            return m_nodes[std::size_t(*known)].best;
+int KeywordList::findEntry(QStringView word, Miss* miss) const {
+    const quint64 hash = FoldedWordTable::hashOf(word);
+    int known = m_knownPrefixes.find(word, hash);
+    if (known >= 0) {
+        // An edge split since may have put a node for a shorter prefix above the one kept.
+        for (int up = m_nodes[std::size_t(known)].parent;
+             up >= 0 && m_nodes[std::size_t(up)].depth >= word.size();
+             up = m_nodes[std::size_t(up)].parent)
+            known = up;
+        return m_nodes[std::size_t(known)].best;
     }
-    node = 0;
-    const qsizetype depth = std::min<qsizetype>(word.size(), kTreeDepth);
-    for (qsizetype i = 0; i < depth; ++i) {
-        const auto found = m_edges.find((quint64(node) << 16) | word[i].unicode());
-        if (found == m_edges.end())
-            return -1;
-        node = found->second;
-    }
-    if (word.size() <= kTreeDepth) {
-        m_knownPrefixes.insert(word.toString(), node);
-        return m_nodes[std::size_t(node)].best;
-    }
-    int best = -1;
-    for (int e : m_nodes[std::size_t(node)].deep)
-        if (QStringView(m_folded[std::size_t(e)]).startsWith(word) && beats(e, best))
-            best = e;
-    return best;
-}
-
-void KeywordList::addToTree(int entry, const QString& word) {
     int node = 0;
-    if (beats(entry, m_nodes[0].best))
-        m_nodes[0].best = entry;
-    const qsizetype depth = std::min<qsizetype>(word.size(), kTreeDepth);
-    for (qsizetype i = 0; i < depth; ++i) {
-        node = nodeFor(node, word[i].unicode(), true);
-        if (beats(entry, m_nodes[std::size_t(node)].best))
-            m_nodes[std::size_t(node)].best = entry;
+    qsizetype pos = 0;
+    while (pos < word.size()) {
+        const int child = m_edges.find(EdgeTable::keyOf(node, word[pos].unicode()));
+        if (child < 0) {
+            if (miss)
+                *miss = {node, pos, -1, 0};
+            return -1;
+        }
+        const Node& c = m_nodes[std::size_t(child)];
+        const char16_t* label = m_keys.data() + c.labelStart;
+        const qsizetype room = std::min<qsizetype>(c.labelLength, word.size() - pos);
+        qsizetype matched = 1;
+        while (matched < room && label[matched] == word[pos + matched].unicode())
+            ++matched;
+        if (matched < room) {
+            if (miss)
+                *miss = {node, pos, child, matched};
+            return -1;
+        }
+        // Either the whole edge matched, or the word ends on it and child's entries all
+        // begin with it.
+        node = child;
+        pos += matched;
     }
-    if (word.size() > kTreeDepth)
-        m_nodes[std::size_t(node)].deep.push_back(entry);
-    else
-        m_knownPrefixes.insert(word, node);
-    m_entryNode.push_back(node);
+    m_knownPrefixes.insert(word, hash, node);
+    return m_nodes[std::size_t(node)].best;
+}
+
+// A new entry has the lowest count and came last, so it takes over no existing node: only
+// the nodes made for it (and the root of an empty list) get it as their best.
+void KeywordList::addToTree(int entry, QStringView word, const Miss& miss) {
+    const auto start = quint32(m_keys.size());
+    m_keys.insert(m_keys.end(), word.utf16(), word.utf16() + word.size());
+    if (m_nodes[0].best < 0)
+        m_nodes[0].best = entry;
+    int parent = miss.node;
+    qsizetype pos = miss.pos;
+    if (miss.child >= 0) {
+        // Split the edge into the child where the word leaves it.
+        const int child = miss.child;
+        const int matched = static_cast<int>(miss.matched);
+        const Node old = m_nodes[std::size_t(child)];
+        const int middle = static_cast<int>(m_nodes.size());
+        m_nodes.push_back(Node{parent, old.best, old.labelStart, matched,
+                               m_nodes[std::size_t(parent)].depth + matched});
+        m_edges.replace(EdgeTable::keyOf(parent, word[pos].unicode()), middle);
+        Node& lower = m_nodes[std::size_t(child)];
+        lower.parent = middle;
+        lower.labelStart += quint32(matched);
+        lower.labelLength -= matched;
+        m_edges.insert(EdgeTable::keyOf(middle, m_keys[lower.labelStart]), child);
+        parent = middle;
+        pos += matched;
+    }
+    const int leaf = static_cast<int>(m_nodes.size());
+    m_nodes.push_back(Node{parent, entry, start + quint32(pos), static_cast<int>(word.size() - pos),
+                           static_cast<int>(word.size())});
+    m_edges.insert(EdgeTable::keyOf(parent, word[pos].unicode()), leaf);
+    m_knownPrefixes.insert(word, FoldedWordTable::hashOf(word), leaf);
+    m_entryNode.push_back(leaf);
 }
 
 // A count only grows, so the entry can only take over nodes on its own path; and where it
@@ -177,30 +285,50 @@ void KeywordList::raiseInTree(int entry) {
 }
 
 void KeywordList::CountWord(QStringView piece) {
-    const QString word = CleanWord(piece);
+    if (m_cleaned.size() < std::size_t(piece.size())) {
+        m_cleaned.resize(std::size_t(piece.size()));
+        m_folded.resize(std::size_t(piece.size()));
+    }
+    const qsizetype kept = keptCharacters(piece, m_cleaned.data());
+    if (kept <= 0)
+        return;
+    QStringView word(m_cleaned.data(), kept);
+    if (isStopWord(word))
+        return;
+    word = withoutBlanks(word);
     if (word.isEmpty())
         return;
-    const QString key = folded(word);
-    const int found = findEntry(key);
+    foldInto(word, m_folded.data());
+    const QStringView key(m_folded.data(), word.size());
+    Miss miss;
+    const int found = findEntry(key, &miss);
     if (found >= 0) {
-        ++m_entries[std::size_t(found)].count;
+        ++m_counts[std::size_t(found)];
         raiseInTree(found);
         return;
     }
     const int entry = static_cast<int>(m_entries.size());
-    m_entries.push_back({word, 1, false, entry});
-    m_folded.push_back(key);
-    addToTree(entry, key);
+    m_entries.push_back({word.toString(), 0, false, entry});
+    m_counts.push_back(1);
+    addToTree(entry, key, miss);
 }
 
 void KeywordList::SplitWords(QStringView buffer, const std::function<void()>& pump) {
+    if (m_entries.empty()) {
+        // Room for an entry in every few dozen characters, so a big page does not keep
+        // moving them.
+        const auto expected = std::size_t(buffer.size() / 64);
+        m_entries.reserve(expected);
+        m_counts.reserve(expected);
+        m_entryNode.reserve(expected);
+    }
     qsizetype start = 0;
     int counted = 0;
     while (true) {
         const qsizetype blank = buffer.indexOf(u' ', start);
         if (blank < 0)
             break;
-        CountWord(trimBlanks(buffer.sliced(start, blank - start + 1)));
+        CountWord(withoutBlanks(buffer.sliced(start, blank - start + 1)));
         start = blank + 1;
         if (pump && ++counted % 4096 == 0)
             pump();
@@ -233,9 +361,9 @@ int KeywordList::FindWord(QStringView word) const {
 }
 
 void KeywordList::CheckFrequentWords() {
-    for (auto& e : m_entries)
-        if (e.count > 2)
-            e.ticked = true;
+    for (std::size_t i = 0; i < m_entries.size(); ++i)
+        if (m_counts[i] > 2)
+            m_entries[i].ticked = true;
 }
 
 QString KeywordList::RebuildKeywords(const QString& current) const {
@@ -256,8 +384,10 @@ void KeywordList::sortByColumn(int column) {
 std::vector<KeywordEntry> KeywordList::entries() const {
     std::vector<KeywordEntry> out;
     out.reserve(m_entries.size());
-    for (int i : order())
+    for (int i : order()) {
         out.push_back(m_entries[std::size_t(i)]);
+        out.back().count = m_counts[std::size_t(i)];
+    }
     return out;
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
-#include <QHash>
+#include "keywords/EdgeTable.h"
+#include "keywords/FoldedWordTable.h"
+#include "keywords/LargePageAllocator.h"
+
 #include <QString>
 #include <QStringList>
 #include <functional>
-#include <unordered_map>
 #include <vector>
 
 namespace brevaro {
@@ -52,25 +54,44 @@ public:
     void setTicked(int index, bool ticked);
 
 private:
+    // A node of the prefix tree. The edge into it is labelled with labelLength folded
+    // characters at labelStart in m_keys; the node stands for the first depth characters.
     struct Node {
         int parent = -1;
-        int best = -1;         // entry with the highest count in this subtree, earliest on a tie
-        std::vector<int> deep; // entries longer than the tree's depth that end below here
+        int best = -1; // entry with the highest count in this subtree, earliest on a tie
+        quint32 labelStart = 0;
+        int labelLength = 0;
+        int depth = 0;
+    };
+    // Where the search for a word that no entry begins with left the tree: below node after
+    // pos characters, and when child >= 0 part way along the edge into child, after matched
+    // further characters.
+    struct Miss {
+        int node = 0;
+        qsizetype pos = 0;
+        int child = -1;
+        qsizetype matched = 0;
     };
     bool beats(int a, int b) const;
-    int nodeFor(int parent, char16_t c, bool create);
-    int findEntry(QStringView folded) const;
-    void addToTree(int entry, const QString& folded);
+    int findEntry(QStringView folded, Miss* miss = nullptr) const;
+    void addToTree(int entry, QStringView folded, const Miss& miss);
     void raiseInTree(int entry);
     std::vector<int> order() const;
 
-    std::vector<KeywordEntry> m_entries;
-    std::vector<QString> m_folded;
-    std::vector<Node> m_nodes;
-    std::unordered_map<quint64, int> m_edges;
-    std::vector<int> m_entryNode;
+    // The entries in order of first appearance; their counts are kept apart in m_counts,
+    // which the ranking reads for every counted word.
+    std::vector<KeywordEntry, LargePageAllocator<KeywordEntry>> m_entries;
+    std::vector<int, LargePageAllocator<int>> m_counts;
+    std::vector<Node, LargePageAllocator<Node>> m_nodes;
+    EdgeTable m_edges;
+    std::vector<int, LargePageAllocator<int>> m_entryNode;
+    // The folded words of the entries, back to back; the edge labels point into it.
+    std::vector<char16_t, LargePageAllocator<char16_t>> m_keys;
     // Words met before map straight to their node, so a repeated word is one lookup.
-    mutable QHash<QString, int> m_knownPrefixes;
+    mutable FoldedWordTable m_knownPrefixes;
+    // Scratch space for the word being counted: cleaned, then case-folded.
+    std::vector<char16_t> m_cleaned;
+    std::vector<char16_t> m_folded;
     int m_sortColumn = 1;
 };
 

@@ -49,9 +49,13 @@ QString declaredCharset(const QByteArray& head) {
 QString decodePage(const QByteArray& bytes, const QString& headerCharset) {
     if (bytes.startsWith("\xEF\xBB\xBF"))
         return QString::fromUtf8(bytes.mid(3));
-    QString charset = headerCharset.isEmpty() ? declaredCharset(bytes) : headerCharset;
-    if (charset.isEmpty())
-        charset = isValidUtf8(bytes) ? QStringLiteral("utf-8") : QStringLiteral("windows-1252");
+    const QString charset = headerCharset.isEmpty() ? declaredCharset(bytes) : headerCharset;
+    if (charset.isEmpty()) {
+        // Undeclared: UTF-8 when the bytes are valid UTF-8, else Windows-1252; one pass.
+        QStringDecoder utf8(QStringDecoder::Utf8);
+        QString text = utf8.decode(bytes);
+        return utf8.hasError() ? fromWin1252(bytes) : text;
+    }
     if (isWin1252(charset))
         return fromWin1252(bytes);
     QStringDecoder d = decoderFor(charset);

@@ -117,3 +117,19 @@ TEST(HttpTransfer, FailuresEndCleanlyAndKeepOldFiles) {
     EXPECT_LT(server.bytesSent(), 100LL * 1024 * 1024);
     EXPECT_LE(r.text.size(), 1024 * 1024);
 }
+
+// A saved page: a byte-order mark or a declared charset wins; otherwise valid UTF-8 is read
+// as UTF-8 and anything else as Windows-1252.
+TEST(HttpTransfer, DecodePageChoosesTheCharset) {
+    EXPECT_EQ(decodePage(QByteArray("\xEF\xBB\xBF"
+                                    "caf\xC3\xA9")),
+              QStringLiteral("caf\u00e9"));
+    EXPECT_EQ(decodePage(QByteArray("<p>caf\xC3\xA9 \xE2\x82\xAC")),
+              QStringLiteral("<p>caf\u00e9 \u20ac"));
+    EXPECT_EQ(decodePage(QByteArray("<p>caf\xE9 \x80")), QStringLiteral("<p>caf\u00e9 \u20ac"));
+    EXPECT_EQ(decodePage(QByteArray("<meta charset=\"iso-8859-1\">\xC3\xA9")),
+              QStringLiteral("<meta charset=\"iso-8859-1\">\u00c3\u00a9"));
+    EXPECT_EQ(decodePage(QByteArray("\xC3\xA9"), QStringLiteral("windows-1252")),
+              QStringLiteral("\u00c3\u00a9"));
+    EXPECT_EQ(decodePage(QByteArray()), QString());
+}

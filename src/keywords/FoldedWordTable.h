@@ -1,0 +1,123 @@
+#pragma once
+
+#include <QStringView>
+#include <QtGlobal>
+#include <cstddef>
+#include <cstring>
+#include <vector>
+
+#include "keywords/LargePageAllocator.h"
+
+namespace brevaro {
+
+// Case-folded words met before, to their node in the keyword prefix tree, so that a repeated
+// word is one hash and one compare. The words are kept back to back in one character store,
+// the slots in one flat table with open addressing.
+class FoldedWordTable {
+public:
+    FoldedWordTable() { clear(); }
+
+    void clear() {
+        m_slots.assign(std::size_t(1) << kFirstBits, Slot{});
+        m_bits = kFirstBits;
+        m_size = 0;
+        m_chars.clear();
+    }
+
+    static quint64 hashOf(QStringView word) {
+        const char16_t* p = word.utf16();
+        qsizetype n = word.size();
+        quint64 h = quint64(n) * kMul;
+        for (; n >= 4; n -= 4, p += 4) {
+            quint64 chunk;
+            std::memcpy(&chunk, p, sizeof chunk);
+            h = (h ^ chunk) * kMul;
+            h ^= h >> 29;
+        }
+        for (; n > 0; --n, ++p)
+            h = (h ^ *p) * kMul;
+        h ^= h >> 32;
+        return h;
+    }
+
+    // The node of word (hashed by hashOf), or -1.
+    int find(QStringView word, quint64 hash) const {
+        const auto length = quint32(word.size());
+        for (std::size_t i = slotOf(hash);; i = (i + 1) & mask()) {
+            const Slot& s = m_slots[i];
+            if (s.node < 0)
+                return -1;
+            if (s.hash == hash && s.length == length && sameChars(charsOf(s), word.utf16(), length))
+                return s.node;
+        }
+    }
+
+    // Adds a word that is not there yet.
+    void insert(QStringView word, quint64 hash, int node) {
+        if (2 * (m_size + 1) > m_slots.size())
+            rebuild(m_bits + 1);
+        Slot slot;
+        slot.hash = hash;
+        slot.length = quint32(word.size());
+        slot.node = node;
+        if (word.size() <= kInline) {
+            std::memcpy(slot.chars, word.utf16(), std::size_t(word.size()) * sizeof(char16_t));
+        } else {
+            slot.offset = quint32(m_chars.size());
+            m_chars.insert(m_chars.end(), word.utf16(), word.utf16() + word.size());
+        }
+        place(slot);
+        ++m_size;
+    }
+
+private:
+    static constexpr qsizetype kInline = 8;
+    // Short words are kept in the slot itself, so that finding one reads one cache line.
+    struct alignas(32) Slot {
+        quint64 hash = 0;
+        int node = -1;
+        quint32 length = 0;
+        union {
+            char16_t chars[kInline];
+            quint32 offset;
+        };
+        Slot()
+            : chars{} {}
+    };
+    // The keys are short and their hashes already agree: a plain loop beats a call.
+    static bool sameChars(const char16_t* a, const char16_t* b, quint32 n) {
+        for (quint32 i = 0; i < n; ++i)
+            if (a[i] != b[i])
+                return false;
+        return true;
+    }
+    const char16_t* charsOf(const Slot& s) const {
+        return s.length <= kInline ? s.chars : m_chars.data() + s.offset;
+    }
+    static constexpr quint64 kMul = 0x9E3779B97F4A7C15ull;
+    static constexpr int kFirstBits = 10;
+
+    std::size_t mask() const { return m_slots.size() - 1; }
+    std::size_t slotOf(quint64 hash) const { return std::size_t((hash * kMul) >> (64 - m_bits)); }
+    void place(const Slot& slot) {
+        std::size_t i = slotOf(slot.hash);
+        while (m_slots[i].node >= 0)
+            i = (i + 1) & mask();
+        m_slots[i] = slot;
+    }
+    void rebuild(int bits) {
+        std::vector<Slot, LargePageAllocator<Slot>> old(std::size_t(1) << bits);
+        old.swap(m_slots);
+        m_bits = bits;
+        for (const Slot& s : old)
+            if (s.node >= 0)
+                place(s);
+    }
+
+    std::vector<Slot, LargePageAllocator<Slot>> m_slots;
+    std::vector<char16_t, LargePageAllocator<char16_t>> m_chars;
+    std::size_t m_size = 0;
+    int m_bits = kFirstBits;
+};
+
+} // namespace brevaro

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdlib>
+#include <memory>
+#include <new>
+#if defined(__linux__)
+#include <sys/mman.h>
+#endif
+
+namespace brevaro {
+
+// Allocator for the keyword tables. Blocks of 2 MiB and more are aligned to 2 MiB and, on
+// Linux, offered huge pages, so that tables of many megabytes that are read at random cost
+// few page faults and few TLB misses; smaller blocks come from the usual heap.
+template <typename T> struct LargePageAllocator {
+    using value_type = T;
+
+    LargePageAllocator() = default;
+    template <typename U> LargePageAllocator(const LargePageAllocator<U>&) {}
+
+    T* allocate(std::size_t n) {
+        const std::size_t bytes = n * sizeof(T);
+        if (bytes < kLarge)
+            return std::allocator<T>().allocate(n);
+        const std::size_t rounded = (bytes + kLarge - 1) / kLarge * kLarge;
+        void* p = std::aligned_alloc(kLarge, rounded);
+        if (!p)
+            throw std::bad_alloc();
+#if defined(__linux__) && defined(MADV_HUGEPAGE)
+        madvise(p, rounded, MADV_HUGEPAGE);
+#endif
+        return static_cast<T*>(p);
+    }
+
+    void deallocate(T* p, std::size_t n) {
+        if (n * sizeof(T) < kLarge)
+            std::allocator<T>().deallocate(p, n);
+        else
+            std::free(p);
+    }
+
+    friend bool operator==(const LargePageAllocator&, const LargePageAllocator&) {
+        return true;
+    }
+
+private:
+    static constexpr std::size_t kLarge = std::size_t(2) << 20;
+};
+
+} // namespace brevaro
