@@ -47,7 +47,9 @@ int keywordsCommand(CliContext& ctx, const QStringList& words) {
     HttpTransfer http;
     KeywordSuggester suggester(http);
     if (isFile) {
-        suggester.checkPage(decodePage(readSourceFile(from)));
+        QString error;
+        if (!suggester.checkPageFile(from, &error))
+            throw CliError{2, error};
     } else {
         suggester.url = from;
         suggester.checkHomepage();

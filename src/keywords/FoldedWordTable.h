@@ -6,13 +6,13 @@
 #include <cstring>
 #include <vector>
 
-#include "keywords/LargePageAllocator.h"
+#include "platform/LargePageAllocator.h"
 
 namespace brevaro {
 
-// Case-folded words met before, to their node in the keyword prefix tree, so that a repeated
-// word is one hash and one compare. The words are kept back to back in one character store,
-// the slots in one flat table with open addressing.
+// Case-folded words met before, each to a number, so that a repeated word is one hash and one
+// compare. The words are kept back to back in one character store, the slots in one flat
+// table with open addressing; short words sit in their slot.
 class FoldedWordTable {
 public:
     FoldedWordTable() { clear(); }
@@ -40,26 +40,38 @@ public:
         return h;
     }
 
-    // The node of word (hashed by hashOf), or -1.
+    // Makes room for n words without growing again.
+    void reserve(std::size_t n) {
+        int bits = m_bits;
+        while ((std::size_t(1) << bits) < 2 * n)
+            ++bits;
+        if (bits != m_bits)
+            rebuild(bits);
+    }
+
+    // Asks for the slot of hash to be brought into the cache, for a find soon after.
+    void prefetch(quint64 hash) const { __builtin_prefetch(&m_slots[slotOf(hash)]); }
+
+    // The number of word (hashed by hashOf), or -1.
     int find(QStringView word, quint64 hash) const {
         const auto length = quint32(word.size());
         for (std::size_t i = slotOf(hash);; i = (i + 1) & mask()) {
             const Slot& s = m_slots[i];
-            if (s.node < 0)
+            if (s.value < 0)
                 return -1;
             if (s.hash == hash && s.length == length && sameChars(charsOf(s), word.utf16(), length))
-                return s.node;
+                return s.value;
         }
     }
 
     // Adds a word that is not there yet.
-    void insert(QStringView word, quint64 hash, int node) {
+    void insert(QStringView word, quint64 hash, int value) {
         if (2 * (m_size + 1) > m_slots.size())
             rebuild(m_bits + 1);
         Slot slot;
         slot.hash = hash;
         slot.length = quint32(word.size());
-        slot.node = node;
+        slot.value = value;
         if (word.size() <= kInline) {
             std::memcpy(slot.chars, word.utf16(), std::size_t(word.size()) * sizeof(char16_t));
         } else {
@@ -75,7 +87,7 @@ private:
     // Short words are kept in the slot itself, so that finding one reads one cache line.
     struct alignas(32) Slot {
         quint64 hash = 0;
-        int node = -1;
+        int value = -1;
         quint32 length = 0;
         union {
             char16_t chars[kInline];
@@ -101,7 +113,7 @@ private:
     std::size_t slotOf(quint64 hash) const { return std::size_t((hash * kMul) >> (64 - m_bits)); }
     void place(const Slot& slot) {
         std::size_t i = slotOf(slot.hash);
-        while (m_slots[i].node >= 0)
+        while (m_slots[i].value >= 0)
             i = (i + 1) & mask();
         m_slots[i] = slot;
     }
@@ -110,7 +122,7 @@ private:
         old.swap(m_slots);
         m_bits = bits;
         for (const Slot& s : old)
-            if (s.node >= 0)
+            if (s.value >= 0)
                 place(s);
     }
 

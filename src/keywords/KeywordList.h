@@ -1,11 +1,9 @@
 #pragma once
 
-#include "keywords/EdgeTable.h"
-#include "keywords/FoldedWordTable.h"
-#include "keywords/LargePageAllocator.h"
+#include "keywords/WordTally.h"
+#include "platform/LargePageAllocator.h"
 
 #include <QString>
-#include <QStringList>
 #include <functional>
 #include <vector>
 
@@ -16,22 +14,23 @@ struct KeywordEntry {
     QString word;
     int count = 0;
     bool ticked = false;
-    int firstSeen = 0;
 
     // "001" to "999", then "1000" and on.
     QString countText() const;
 };
 
-// The word list of the keyword suggester. While counting it is ordered by count, highest
-// first, ties in order of first appearance; FindWord is a prefix search in that order,
-// answered from a case-folded prefix tree so that counting stays linear in the page.
+// The word list of the keyword suggester. While words are counted the list keeps the order
+// in which they first came, and FindWord, a prefix search, takes the first match in that
+// order; when SplitWords has counted a text, the list is sorted by its sort column (by
+// default the count, highest first, ties in order of first appearance).
 class KeywordList {
 public:
     KeywordList();
 
     void clear();
-    // Cuts the text into pieces at blanks and counts each; the text after the last blank
-    // is not counted. pump, when set, runs now and then so a window stays responsive.
+    // Cuts the text into pieces at blanks and counts each as CountWord would, then sorts the
+    // list; the text after the last blank is not counted. pump, when set, runs now and then
+    // so a window stays responsive.
     void SplitWords(QStringView buffer, const std::function<void()>& pump = {});
     void CountWord(QStringView piece);
     // The word left after removing punctuation, or empty for numbers, markup and stop words.
@@ -44,55 +43,55 @@ public:
     // no ticked word fits.
     QString RebuildKeywords(const QString& current) const;
 
-    // Sorting by a column header: 0 the word (ascending), 1 the count (descending).
+    // Sorting by a column header: 0 the word (ascending), 1 the count (descending); entries
+    // that compare equal keep their order.
     void sortByColumn(int column);
     int sortColumn() const { return m_sortColumn; }
 
     // The entries in list order.
     std::vector<KeywordEntry> entries() const;
-    int size() const { return static_cast<int>(m_entries.size()); }
+    int size() const { return static_cast<int>(m_order.size()); }
     void setTicked(int index, bool ticked);
 
 private:
-    // A node of the prefix tree. The edge into it is labelled with labelLength folded
-    // characters at labelStart in m_keys; the node stands for the first depth characters.
-    struct Node {
-        int parent = -1;
-        int best = -1; // entry with the highest count in this subtree, earliest on a tie
-        quint32 labelStart = 0;
-        int labelLength = 0;
-        int depth = 0;
-    };
-    // Where the search for a word that no entry begins with left the tree: below node after
-    // pos characters, and when child >= 0 part way along the edge into child, after matched
-    // further characters.
-    struct Miss {
-        int node = 0;
-        qsizetype pos = 0;
-        int child = -1;
-        qsizetype matched = 0;
-    };
-    bool beats(int a, int b) const;
-    int findEntry(QStringView folded, Miss* miss = nullptr) const;
-    void addToTree(int entry, QStringView folded, const Miss& miss);
-    void raiseInTree(int entry);
-    std::vector<int> order() const;
+    QStringView wordOf(int entry) const;
+    QStringView keyOf(int entry) const;
+    // Adds an entry at the end of the list with a count of 0.
+    int addEntry(QStringView word, QStringView key);
+    // The same for a word already in the stores.
+    int addEntry(quint32 start, qsizetype length);
+    void reserveEntries(std::size_t entries);
 
-    // The entries in order of first appearance; their counts are kept apart in m_counts,
-    // which the ranking reads for every counted word.
-    std::vector<KeywordEntry, LargePageAllocator<KeywordEntry>> m_entries;
-    std::vector<int, LargePageAllocator<int>> m_counts;
-    std::vector<Node, LargePageAllocator<Node>> m_nodes;
-    EdgeTable m_edges;
-    std::vector<int, LargePageAllocator<int>> m_entryNode;
-    // The folded words of the entries, back to back; the edge labels point into it.
+    friend class KeywordCounting;
+
+    // Entry i (numbered in order of first appearance) is written m_words[m_start[i]...] and,
+    // case-folded, m_keys[m_start[i]...], m_length[i] characters in both.
+    std::vector<char16_t, LargePageAllocator<char16_t>> m_words;
     std::vector<char16_t, LargePageAllocator<char16_t>> m_keys;
-    // Words met before map straight to their node, so a repeated word is one lookup.
-    mutable FoldedWordTable m_knownPrefixes;
-    // Scratch space for the word being counted: cleaned, then case-folded.
-    std::vector<char16_t> m_cleaned;
-    std::vector<char16_t> m_folded;
+    std::vector<quint32, LargePageAllocator<quint32>> m_start;
+    std::vector<quint32, LargePageAllocator<quint32>> m_length;
+    std::vector<int, LargePageAllocator<int>> m_counts;
+    std::vector<char, LargePageAllocator<char>> m_ticked;
+    // The entries in list order.
+    std::vector<int, LargePageAllocator<int>> m_order;
     int m_sortColumn = 1;
+};
+
+// Counts a text that comes in parts into a list, as SplitWords counts the parts joined.
+class KeywordCounting {
+public:
+    // expectedCharacters: about how long the whole text is, to size the tables.
+    KeywordCounting(KeywordList& list, std::size_t expectedCharacters);
+    void add(QStringView part, const std::function<void()>& pump = {});
+    // Ends the text, brings the counts into the list and sorts it.
+    void finish();
+
+private:
+    KeywordList& m_list;
+    WordTally m_tally;
+    // The entries listed when counting began, in list order, and their words' numbers.
+    std::vector<int> m_listed;
+    std::vector<int> m_listedIds;
 };
 
 } // namespace brevaro

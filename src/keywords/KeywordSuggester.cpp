@@ -1,5 +1,6 @@
 #include "keywords/KeywordSuggester.h"
 
+#include "platform/FileHelpers.h"
 #include "platform/HttpTransfer.h"
 #include "platform/StringHelpers.h"
 
@@ -62,8 +63,29 @@ void KeywordSuggester::checkPage(const QString& page) {
     count();
 }
 
+bool KeywordSuggester::checkPageFile(const QString& path, QString* error) {
+    ByteBlock bytes;
+    if (!readRegularFile(path, HttpTransfer::kMaxBytes, &bytes, error))
+        return false;
+    m_list.clear();
+    m_buffer.clear();
+    KeywordCounting counting(m_list, bytes.size());
+    decodePageInParts(QByteArrayView(bytes.data(), qsizetype(bytes.size())), QString(),
+                      [&](QStringView part) { counting.add(part, pump); });
+    counting.finish();
+    if (pump)
+        pump();
+    m_list.CheckFrequentWords();
+    rebuild();
+    return true;
+}
+
 void KeywordSuggester::count() {
-    m_list.SplitWords(m_buffer, pump);
+    count(m_buffer);
+}
+
+void KeywordSuggester::count(QStringView text) {
+    m_list.SplitWords(text, pump);
     m_list.CheckFrequentWords();
     rebuild();
 }

@@ -35,6 +35,10 @@ public:
     void checkHomepage();
     // The same over a page already at hand.
     void checkPage(const QString& page);
+    // The same over a page file (decoded as a fetched page without a charset header), read
+    // by the rules for a download; false with a one-line reason in *error. The receive
+    // buffer, which holds fetched pages, is left empty.
+    bool checkPageFile(const QString& path, QString* error);
     void rebuild();
     // Runs now and then while counting, so a window stays responsive.
     std::function<void()> pump;
@@ -49,6 +53,7 @@ signals:
 private:
     void simpleText(const QString& text);
     void count();
+    void count(QStringView text);
 
     HttpTransfer& m_http;
     KeywordList m_list;

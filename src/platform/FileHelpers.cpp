@@ -35,7 +35,18 @@ bool ensureFolder(const QString& path) {
     return QDir().mkpath(path);
 }
 
-bool readRegularFile(const QString& path, qint64 maxBytes, QByteArray* out, QString* error) {
+namespace {
+
+void appendBytes(QByteArray* out, const char* data, qsizetype n) {
+    out->append(data, n);
+}
+
+void appendBytes(ByteBlock* out, const char* data, qsizetype n) {
+    out->insert(out->end(), data, data + n);
+}
+
+template <typename Bytes>
+bool readRegularFileInto(const QString& path, qint64 maxBytes, Bytes* out, QString* error) {
     const QFileInfo info(path);
     const QString shown = QDir::toNativeSeparators(path);
     if (!info.exists()) {
@@ -52,31 +63,49 @@ bool readRegularFile(const QString& path, qint64 maxBytes, QByteArray* out, QStr
         return false;
     }
     const auto tooLarge = [&] {
+        out->clear();
         *error = QStringLiteral("%1 is larger than %2 MB").arg(shown).arg(maxBytes / (1024 * 1024));
         return false;
     };
-    if (info.size() > maxBytes)
+    const qint64 expected = info.size();
+    if (expected > maxBytes)
         return tooLarge();
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         *error = QStringLiteral("%1 cannot be read").arg(shown);
         return false;
     }
-    // Read in pieces (a read of maxBytes would claim that much memory at once); the file may
-    // grow while it is read.
-    out->clear();
-    out->reserve(info.size());
-    while (out->size() <= maxBytes) {
-        const QByteArray piece = file.read(std::min<qint64>(1 << 20, maxBytes + 1 - out->size()));
-        if (piece.isEmpty())
+    // The size found is read straight into place; the file may have grown or shrunk since,
+    // so what follows is read in small pieces, never past the limit.
+    out->resize(expected);
+    qint64 have = 0;
+    while (have < expected) {
+        const qint64 n = file.read(out->data() + have, expected - have);
+        if (n <= 0)
             break;
-        *out += piece;
+        have += n;
     }
-    if (out->size() > maxBytes) {
-        out->clear();
-        return tooLarge();
+    out->resize(have);
+    char piece[64 * 1024];
+    while (have == expected) {
+        const qint64 n = file.read(piece, sizeof piece);
+        if (n <= 0)
+            break;
+        if (qint64(out->size()) + n > maxBytes)
+            return tooLarge();
+        appendBytes(out, piece, n);
     }
     return true;
+}
+
+} // namespace
+
+bool readRegularFile(const QString& path, qint64 maxBytes, QByteArray* out, QString* error) {
+    return readRegularFileInto(path, maxBytes, out, error);
+}
+
+bool readRegularFile(const QString& path, qint64 maxBytes, ByteBlock* out, QString* error) {
+    return readRegularFileInto(path, maxBytes, out, error);
 }
 
 QString plainWriteError(const QFileDevice& file, qint64 bytesWanted) {

@@ -4,8 +4,14 @@
 #include <QDateTime>
 #include <QFileDevice>
 #include <QString>
+#include <vector>
+
+#include "platform/LargePageAllocator.h"
 
 namespace brevaro {
+
+// Bytes in a block that big pages are offered for.
+using ByteBlock = std::vector<char, LargePageAllocator<char>>;
 
 // True when a file or folder exists at path.
 bool pathExists(const QString& path);
@@ -21,6 +27,8 @@ bool ensureFolder(const QString& path);
 // Reads a regular file of at most maxBytes; false with a plain, one-line reason (a folder, a
 // device or pipe, a file too large, unreadable) in *error.
 bool readRegularFile(const QString& path, qint64 maxBytes, QByteArray* out, QString* error);
+// The same into memory of its own, for files of many megabytes.
+bool readRegularFile(const QString& path, qint64 maxBytes, ByteBlock* out, QString* error);
 // Replaces the file with bytes through a temporary file renamed into place; false with a
 // plain, one-line reason ("the disk is full", ...) in *error.
 bool writeFileAtomically(const QString& path, const QByteArray& bytes, QString* error);

@@ -39,27 +39,123 @@ bool isWin1252(const QString& charset) {
 
 } // namespace
 
-QString declaredCharset(const QByteArray& head) {
+QString declaredCharset(QByteArrayView head) {
     static const QRegularExpression re(
         QStringLiteral("<meta[^>]*charset\\s*=\\s*[\"']?([A-Za-z0-9_.:-]+)"),
         QRegularExpression::CaseInsensitiveOption);
-    return re.match(QString::fromLatin1(head.left(4096))).captured(1);
+    return re.match(QString::fromLatin1(head.first(std::min<qsizetype>(head.size(), 4096))))
+        .captured(1);
 }
 
-QString decodePage(const QByteArray& bytes, const QString& headerCharset) {
+namespace {
+
+constexpr qsizetype kPartBytes = 64 * 1024;
+
+// How the bytes of a page are to be read.
+struct PageEncoding {
+    enum Kind { MarkedUtf8, Undeclared, Utf8, Win1252, Named };
+    QByteArrayView body; // without a byte order mark
+    Kind kind = Undeclared;
+    QString charset;
+};
+
+PageEncoding encodingOf(QByteArrayView bytes, const QString& headerCharset) {
     if (bytes.startsWith("\xEF\xBB\xBF"))
-        return QString::fromUtf8(bytes.mid(3));
+        return {bytes.sliced(3), PageEncoding::MarkedUtf8, {}};
     const QString charset = headerCharset.isEmpty() ? declaredCharset(bytes) : headerCharset;
-    if (charset.isEmpty()) {
-        // Undeclared: UTF-8 when the bytes are valid UTF-8, else Windows-1252; one pass.
-        QStringDecoder utf8(QStringDecoder::Utf8);
-        QString text = utf8.decode(bytes);
-        return utf8.hasError() ? fromWin1252(bytes) : text;
+    if (charset.isEmpty())
+        return {bytes, PageEncoding::Undeclared, {}};
+    return {bytes, isWin1252(charset) ? PageEncoding::Win1252 : PageEncoding::Named, charset};
+}
+
+// Characters the text of the page may take at most.
+qsizetype roomFor(const PageEncoding& e) {
+    if (e.kind == PageEncoding::Named || e.kind == PageEncoding::Utf8)
+        return decoderFor(e.charset).requiredSpace(e.body.size());
+    // Never fewer than the bytes, which is what Windows-1252 takes.
+    return QStringDecoder(QStringDecoder::Utf8).requiredSpace(e.body.size());
+}
+
+// Decodes into out, which has room for roomFor(e) characters; the end of the text.
+char16_t* decodeInto(const PageEncoding& e, char16_t* out) {
+    const auto decode = [&](QStringDecoder& d) {
+        return reinterpret_cast<char16_t*>(d.appendToBuffer(reinterpret_cast<QChar*>(out), e.body));
+    };
+    switch (e.kind) {
+    case PageEncoding::MarkedUtf8: {
+        QStringDecoder d(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+        return decode(d);
     }
-    if (isWin1252(charset))
-        return fromWin1252(bytes);
-    QStringDecoder d = decoderFor(charset);
-    return d.decode(bytes);
+    case PageEncoding::Undeclared: {
+        // UTF-8 when the bytes are valid UTF-8, else Windows-1252.
+        QStringDecoder d(QStringDecoder::Utf8);
+        char16_t* end = decode(d);
+        return d.hasError() ? fromWin1252To(e.body.data(), e.body.size(), out) : end;
+    }
+    case PageEncoding::Win1252:
+        return fromWin1252To(e.body.data(), e.body.size(), out);
+    case PageEncoding::Utf8:
+    case PageEncoding::Named:
+        break;
+    }
+    QStringDecoder d = decoderFor(e.charset);
+    return decode(d);
+}
+
+} // namespace
+
+QString decodePage(QByteArrayView bytes, const QString& headerCharset) {
+    const PageEncoding e = encodingOf(bytes, headerCharset);
+    QString text(roomFor(e), Qt::Uninitialized);
+    auto* begin = reinterpret_cast<char16_t*>(text.data());
+    text.truncate(decodeInto(e, begin) - begin);
+    return text;
+}
+
+void decodePageInParts(QByteArrayView bytes, const QString& headerCharset,
+                       const std::function<void(QStringView)>& take) {
+    PageEncoding e = encodingOf(bytes, headerCharset);
+    if (e.kind == PageEncoding::Undeclared) {
+        // The test decodePage makes, without holding the text: a decoder that meets no error.
+        bool valid = e.body.isValidUtf8();
+        if (!valid) {
+            QStringDecoder d(QStringDecoder::Utf8);
+            std::vector<char16_t> scratch;
+            for (qsizetype at = 0; at < e.body.size() && !d.hasError(); at += kPartBytes) {
+                const QByteArrayView part =
+                    e.body.sliced(at, std::min(kPartBytes, e.body.size() - at));
+                scratch.resize(std::size_t(d.requiredSpace(part.size())));
+                d.appendToBuffer(reinterpret_cast<QChar*>(scratch.data()), part);
+            }
+            valid = !d.hasError();
+        }
+        e = {e.body, valid ? PageEncoding::Utf8 : PageEncoding::Win1252, QStringLiteral("utf-8")};
+    }
+    QStringDecoder decoder =
+        e.kind == PageEncoding::MarkedUtf8
+            ? QStringDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless)
+            : decoderFor(e.charset);
+    std::vector<char16_t> text;
+    for (qsizetype at = 0; at < e.body.size();) {
+        qsizetype n = std::min(kPartBytes, e.body.size() - at);
+        if (at + n < e.body.size()) {
+            // A part ends after an ASCII byte where it can, so that no character is cut in two
+            // (the decoders that keep state across parts would not mind).
+            qsizetype cut = n;
+            while (cut > 0 && static_cast<unsigned char>(e.body[at + cut - 1]) >= 0x80)
+                --cut;
+            if (cut > 0)
+                n = cut;
+        }
+        const PageEncoding part{e.body.sliced(at, n), e.kind, e.charset};
+        text.resize(std::max(text.size(), std::size_t(decoder.requiredSpace(n + 16))));
+        const char16_t* end = part.kind == PageEncoding::Win1252
+                                  ? fromWin1252To(part.body.data(), n, text.data())
+                                  : reinterpret_cast<char16_t*>(decoder.appendToBuffer(
+                                        reinterpret_cast<QChar*>(text.data()), part.body));
+        take(QStringView(text.data(), end - text.data()));
+        at += n;
+    }
 }
 
 HttpTransfer::HttpTransfer(QObject* parent)

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QString>
 #include <QStringDecoder>
+#include <functional>
 #include <memory>
 
 class QNetworkAccessManager;
@@ -75,9 +76,13 @@ private:
 };
 
 // The character set a page declares in a <meta> tag near its start, or empty.
-QString declaredCharset(const QByteArray& head);
+QString declaredCharset(QByteArrayView head);
 // Decodes a whole page by its header charset, its <meta>, else UTF-8 when valid, else
 // Windows-1252; a byte order mark is dropped.
-QString decodePage(const QByteArray& bytes, const QString& headerCharset = {});
+QString decodePage(QByteArrayView bytes, const QString& headerCharset = {});
+// The same a part at a time, each part's text handed to take: the parts joined are
+// decodePage's text. For pages too big to hold twice.
+void decodePageInParts(QByteArrayView bytes, const QString& headerCharset,
+                       const std::function<void(QStringView)>& take);
 
 } // namespace brevaro

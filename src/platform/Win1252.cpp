@@ -13,13 +13,17 @@ constexpr std::array<char16_t, 32> kHighTable = {
 
 } // namespace
 
-QString fromWin1252(const char* data, qsizetype size) {
-    QString out(size, Qt::Uninitialized);
-    QChar* dst = out.data();
+char16_t* fromWin1252To(const char* data, qsizetype size, char16_t* out) {
     for (qsizetype i = 0; i < size; ++i) {
         const auto b = static_cast<unsigned char>(data[i]);
-        dst[i] = (b >= 0x80 && b < 0xA0) ? QChar(kHighTable[b - 0x80]) : QChar(char16_t(b));
+        *out++ = (b >= 0x80 && b < 0xA0) ? kHighTable[b - 0x80] : char16_t(b);
     }
+    return out;
+}
+
+QString fromWin1252(const char* data, qsizetype size) {
+    QString out(size, Qt::Uninitialized);
+    fromWin1252To(data, size, reinterpret_cast<char16_t*>(out.data()));
     return out;
 }
 

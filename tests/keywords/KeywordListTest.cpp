@@ -49,9 +49,12 @@ TEST(KeywordList, SplittingAndCounting) {
     // Ties keep the order of first appearance; higher counts come first.
     EXPECT_EQ(counted(QStringLiteral("zeta alpha beta alpha beta alpha ")),
               QStringLiteral("alpha=003 beta=002 zeta=001"));
-    // The prefix match takes the highest count among the words it begins.
+    // While counting, the prefix match takes the first word it begins in order of first
+    // appearance; the list is sorted by count once the text is counted.
     EXPECT_EQ(counted(QStringLiteral("program programs programs pro ")),
-              QStringLiteral("programs=003 program=001"));
+              QStringLiteral("program=002 programs=002"));
+    EXPECT_EQ(counted(QStringLiteral("Programs program pro PRO programs ")),
+              QStringLiteral("Programs=005"));
 }
 
 TEST(KeywordList, CountsPastNineHundredNinetyNine) {
@@ -61,7 +64,7 @@ TEST(KeywordList, CountsPastNineHundredNinetyNine) {
         page += QStringLiteral("widget ");
     list.SplitWords(page);
     EXPECT_EQ(list.entries().front().countText(), QStringLiteral("1000"));
-    KeywordEntry e{QStringLiteral("x"), 42, false, 0};
+    KeywordEntry e{QStringLiteral("x"), 42, false};
     EXPECT_EQ(e.countText(), QStringLiteral("042"));
 }
 
@@ -143,52 +146,66 @@ TEST_F(SessionTest, KeywordSuggesterFetchesAndFillsTheSelectedLanguage) {
 
 namespace {
 
-// Counts words the slow way: a scan of the list in its order for the first entry the word
-// begins with, case ignored.
-QStringList plainCounts(const QStringList& words) {
-    struct Plain {
-        QString word;
-        int count;
-    };
-    std::vector<Plain> plain;
+// Counts words the slow way, as the rules say: a scan of the list in its order (first
+// appearance while counting) for the first entry the word begins with, case ignored; then the
+// list sorted by count, highest first, ties in order of first appearance.
+struct Plain {
+    QString word;
+    int count;
+    int first;
+};
+
+void plainCount(std::vector<Plain>& list, const QStringList& words) {
     for (const QString& w : words) {
-        std::vector<int> order(plain.size());
-        for (std::size_t i = 0; i < order.size(); ++i)
-            order[i] = static_cast<int>(i);
-        std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
-            return plain[std::size_t(a)].count > plain[std::size_t(b)].count;
+        const auto hit = std::find_if(list.begin(), list.end(), [&](const Plain& p) {
+            return p.word.startsWith(w, Qt::CaseInsensitive);
         });
-        const auto hit = std::find_if(order.begin(), order.end(), [&](int i) {
-            return plain[std::size_t(i)].word.startsWith(w, Qt::CaseInsensitive);
-        });
-        if (hit != order.end())
-            ++plain[std::size_t(*hit)].count;
+        if (hit != list.end())
+            ++hit->count;
         else
-            plain.push_back({w, 1});
+            list.push_back({w, 1, static_cast<int>(list.size())});
     }
-    std::stable_sort(plain.begin(), plain.end(),
-                     [](const Plain& a, const Plain& b) { return a.count > b.count; });
+    std::stable_sort(list.begin(), list.end(), [](const Plain& a, const Plain& b) {
+        return a.count > b.count || (a.count == b.count && a.first < b.first);
+    });
+}
+
+QStringList plainCounts(const QStringList& first, const QStringList& second) {
+    std::vector<Plain> list;
+    plainCount(list, first);
+    plainCount(list, second);
     QStringList out;
-    for (const auto& p : plain)
+    for (const auto& p : list)
         out << p.word + u'=' + QString::number(p.count);
     return out;
 }
 
-QStringList treeCounts(const QStringList& words) {
-    KeywordList list;
-    list.SplitWords(QString(words.join(u' ') + u' '));
+QStringList listCounts(const KeywordList& list) {
     QStringList out;
     for (const auto& e : list.entries())
         out << e.word + u'=' + QString::number(e.count);
     return out;
 }
 
+QStringList splitCounts(const QStringList& first, const QStringList& second) {
+    KeywordList list;
+    list.SplitWords(QString(first.join(u' ') + u' '));
+    list.SplitWords(QString(second.join(u' ') + u' '));
+    return listCounts(list);
+}
+
+quint32 nextRandom(quint32& seed) {
+    seed = seed * 1103515245u + 12345u;
+    return seed >> 16;
+}
+
 } // namespace
 
-// The prefix tree must give exactly what a scan of the list in its order gives: for words
-// that share long stems, and for many short words over a few letters, whose shared prefixes
-// keep splitting the tree's edges.
+// The one-pass count must give exactly what the scan gives: for words that share long stems
+// (beyond the twelve characters the sort looks at first), for many short words over a few
+// letters, and for a second text counted into a list that is already sorted.
 TEST(KeywordList, AgreesWithAPlainScanOfTheList) {
+    const QString z60(60, u'z');
     const QStringList stems = {QStringLiteral("pro"),
                                QStringLiteral("Prog"),
                                QStringLiteral("program"),
@@ -198,25 +215,59 @@ TEST(KeywordList, AgreesWithAPlainScanOfTheList) {
                                QStringLiteral("edit"),
                                QStringLiteral("Editor"),
                                QStringLiteral("editing"),
-                               QString(60, u'z'),
-                               QString(60, u'z') + QStringLiteral("y"),
+                               QStringLiteral("abcdefghijklmn"),
+                               QStringLiteral("abcdefghijkl"),
+                               QStringLiteral("ABCDEFGHIJKLMNOP"),
+                               z60,
+                               z60 + QStringLiteral("y"),
                                QString(55, u'z')};
-    QStringList fromStems;
-    QStringList shortWords;
-    const QString letters = QStringLiteral("xyXY\u00e9");
     quint32 seed = 7;
-    auto next = [&seed] {
-        seed = seed * 1103515245u + 12345u;
-        return seed >> 16;
-    };
+    QStringList fromStems;
+    QStringList moreStems;
+    QStringList shortWords;
+    QStringList moreShortWords;
     for (int i = 0; i < 3000; ++i)
-        fromStems << stems[int(next() % stems.size())];
-    for (int i = 0; i < 3000; ++i) {
-        QString w;
-        for (quint32 n = 3 + next() % 6; n > 0; --n)
-            w += letters[int(next() % letters.size())];
-        shortWords << w;
+        fromStems << stems[int(nextRandom(seed) % stems.size())];
+    for (int i = 0; i < 500; ++i)
+        moreStems << stems[int(nextRandom(seed) % stems.size())];
+    const QString letters = QStringLiteral("xyXY\u00e9\u00c9");
+    for (QStringList* words : {&shortWords, &moreShortWords})
+        for (int i = 0; i < 3000; ++i) {
+            QString w;
+            for (quint32 n = 1 + nextRandom(seed) % 14; n > 0; --n)
+                w += letters[int(nextRandom(seed) % letters.size())];
+            *words << w;
+        }
+    EXPECT_EQ(splitCounts(fromStems, {}), plainCounts(fromStems, {}));
+    EXPECT_EQ(splitCounts(fromStems, moreStems), plainCounts(fromStems, moreStems));
+    EXPECT_EQ(splitCounts(shortWords, {}), plainCounts(shortWords, {}));
+    EXPECT_EQ(splitCounts(shortWords, moreShortWords), plainCounts(shortWords, moreShortWords));
+}
+
+// SplitWords over a text counts as CountWord over each of its pieces, cleaning included, and
+// then sorts: with punctuation, stop words, rejected words, a piece longer than the batches
+// SplitWords works in, and runs of blanks.
+TEST(KeywordList, SplittingCountsAsCountWordDoes) {
+    const QStringList parts = {QStringLiteral("Soft."),         QStringLiteral("software"),
+                               QStringLiteral("SOFT"),          QStringLiteral("the"),
+                               QStringLiteral("(free)"),        QStringLiteral("free!"),
+                               QStringLiteral("win32"),         QStringLiteral("\u00a9Tools"),
+                               QStringLiteral("tools\r\n"),     QStringLiteral("\u00c9t\u00e9"),
+                               QStringLiteral("\u00e9T\u00c9"), QStringLiteral(""),
+                               QStringLiteral("don't"),         QStringLiteral("a\tb")};
+    quint32 seed = 11;
+    QString text;
+    for (int i = 0; i < 5000; ++i) {
+        text += parts[int(nextRandom(seed) % parts.size())] + u' ';
+        if (i == 2500)
+            text += QString(9000, u'q') + QStringLiteral(" ") + QString(9001, u'Q') + u' ';
     }
-    EXPECT_EQ(treeCounts(fromStems), plainCounts(fromStems));
-    EXPECT_EQ(treeCounts(shortWords), plainCounts(shortWords));
+    KeywordList split;
+    split.SplitWords(text);
+    KeywordList oneByOne;
+    for (const QString& piece : text.split(u' ').mid(0, text.count(u' ')))
+        oneByOne.CountWord(piece);
+    oneByOne.sortByColumn(1);
+    EXPECT_EQ(listCounts(split), listCounts(oneByOne));
+    EXPECT_GT(split.size(), 8);
 }

@@ -10,9 +10,9 @@
 
 namespace brevaro {
 
-// Allocator for the keyword tables. Blocks of 2 MiB and more are aligned to 2 MiB and, on
-// Linux, offered huge pages, so that tables of many megabytes that are read at random cost
-// few page faults and few TLB misses; smaller blocks come from the usual heap.
+// Allocator for big buffers and tables (a page of many megabytes, the keyword tables). Blocks
+// of 2 MiB and more are aligned to 2 MiB and, on Linux, offered huge pages, so that they cost
+// few page faults and, read at random, few TLB misses; smaller blocks come from the usual heap.
 template <typename T> struct LargePageAllocator {
     using value_type = T;
 

@@ -1,0 +1,168 @@
+#include "keywords/WordCleaning.h"
+
+#include <QSet>
+#include <array>
+#include <string_view>
+
+namespace brevaro {
+
+namespace {
+
+enum CharClass : unsigned char { kKeep, kRemove, kReject };
+
+// The 17 removed and 24 rejecting characters; every other character is kept.
+const std::array<CharClass, 128>& asciiClasses() {
+    static const std::array<CharClass, 128> table = [] {
+        std::array<CharClass, 128> t{};
+        for (char c : std::string_view(".\",!?:'_|[]()\r\n\t"))
+            t[static_cast<unsigned char>(c)] = kRemove;
+        for (char c : std::string_view("0123456789-+<>/\\$&;{}%=@"))
+            t[static_cast<unsigned char>(c)] = kReject;
+        return t;
+    }();
+    return table;
+}
+
+constexpr qsizetype kLongestStopWord = 9;
+
+const char* const kStopWordList =
+    "a able add after again age ages align all allows also am an and any anything are at "
+    "been border both but by can comments div down else etc few following for from fully "
+    "get getting give go got had has have having help helps here how href i if in into "
+    "input is it its key keys know like lost made make many me more must my no not now of "
+    "off on one or other our out own page pages rated remove return same save see select "
+    "sent some sometime sorry such take tell thank thanks that the their them then thing "
+    "things this through to top under up us use uses using via want was we when where "
+    "which who will wish with within without worked year years yet you your";
+
+const QSet<QString>& stopWords() {
+    static const QSet<QString> words = [] {
+        QSet<QString> set;
+        for (const QString& w : QString::fromLatin1(kStopWordList).split(u' '))
+            set.insert(w);
+        return set;
+    }();
+    return words;
+}
+
+// A word of at most nine letters a to z is packed into five bits a letter, a = 1.
+
+// The stop words packed, in a small table with open addressing; 0 marks a free slot.
+constexpr int kStopBits = 9;
+using StopTable = std::array<quint64, std::size_t(1) << kStopBits>;
+
+std::size_t stopSlot(quint64 key) {
+    return std::size_t((key * 0x9E3779B97F4A7C15ull) >> (64 - kStopBits));
+}
+
+const StopTable& packedStopWords() {
+    static const StopTable table = [] {
+        StopTable t{};
+        quint64 key = 0;
+        int at = 0;
+        for (const char* p = kStopWordList;; ++p) {
+            if (*p == ' ' || *p == 0) {
+                std::size_t i = stopSlot(key);
+                while (t[i] != 0)
+                    i = (i + 1) % t.size();
+                t[i] = key;
+                key = 0;
+                at = 0;
+                if (*p == 0)
+                    break;
+            } else {
+                key |= quint64(*p - 'a' + 1) << (5 * at++);
+            }
+        }
+        return t;
+    }();
+    return table;
+}
+
+} // namespace
+
+bool isPackedStopWord(quint64 key) {
+    const StopTable& table = packedStopWords();
+    for (std::size_t i = stopSlot(key);; i = (i + 1) % table.size()) {
+        if (table[i] == key)
+            return true;
+        if (table[i] == 0)
+            return false;
+    }
+}
+
+bool isStopWord(QStringView word) {
+    if (word.isEmpty() || word.size() > kLongestStopWord)
+        return false;
+    quint64 key = 0;
+    for (qsizetype i = 0; i < word.size(); ++i) {
+        char16_t c = word[i].unicode();
+        if (c >= 128)
+            return stopWords().contains(word.toString().toLower());
+        if (c >= u'A' && c <= u'Z')
+            c += 32;
+        // Lower-casing keeps any other ASCII character, and no stop word has one.
+        if (c < u'a' || c > u'z')
+            return false;
+        key |= quint64(c - u'a' + 1) << (5 * i);
+    }
+    return isPackedStopWord(key);
+}
+
+qsizetype keptCharacters(QStringView piece, char16_t* out) {
+    const auto& classes = asciiClasses();
+    qsizetype n = 0;
+    for (QChar c : piece) {
+        const char16_t u = c.unicode();
+        const CharClass k = u < 128 ? classes[u] : (u == 0x00A9 ? kRemove : kKeep);
+        if (k == kReject)
+            return -1;
+        if (k == kKeep)
+            out[n++] = u;
+    }
+    return n;
+}
+
+// One pass over the piece does it all: removing, rejecting, folding and the stop-word key.
+qsizetype cleanPiece(QStringView piece, char16_t* word, char16_t* key) {
+    const auto& classes = asciiClasses();
+    qsizetype n = 0;
+    quint64 stopKey = 0;
+    bool mayStop = true; // nothing but letters a to z so far, and no more than a stop word has
+    bool ascii = true;
+    for (const QChar qc : piece) {
+        const char16_t c = qc.unicode();
+        if (c < 128) {
+            const CharClass k = classes[c];
+            if (k == kReject)
+                return 0;
+            if (k == kRemove)
+                continue;
+            const auto lower = c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c;
+            if (lower >= u'a' && lower <= u'z' && n < kLongestStopWord)
+                stopKey |= quint64(lower - u'a' + 1) << (5 * n);
+            else
+                mayStop = false;
+            word[n] = c;
+            key[n++] = lower;
+        } else if (c != 0x00A9) {
+            ascii = false;
+            word[n] = c;
+            key[n++] = qc.toCaseFolded().unicode();
+        }
+    }
+    if (n == 0)
+        return 0;
+    const bool stop = ascii ? mayStop && isPackedStopWord(stopKey) : isStopWord({word, n});
+    return stop ? 0 : n;
+}
+
+QString foldedWord(QStringView word) {
+    QString f(word.size(), Qt::Uninitialized);
+    QChar* out = f.data();
+    for (qsizetype i = 0; i < word.size(); ++i)
+        out[i] = word[i].toCaseFolded();
+    return f;
+}
+
+} // namespace brevaro
