@@ -218,6 +218,8 @@ TEST(KeywordList, AgreesWithAPlainScanOfTheList) {
                                QStringLiteral("abcdefghijklmn"),
                                QStringLiteral("abcdefghijkl"),
                                QStringLiteral("ABCDEFGHIJKLMNOP"),
+                               QStringLiteral("abcdefghijklmxq"),
+                               QStringLiteral("abcdefghijklmyqq"),
                                z60,
                                z60 + QStringLiteral("y"),
                                QString(55, u'z')};

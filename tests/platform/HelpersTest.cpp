@@ -102,6 +102,12 @@ TEST(FileHelpers, BoundedReadsAndPlainWriteErrors) {
     EXPECT_FALSE(readRegularFile(dir.path(), 100, &out, &error));
     EXPECT_FALSE(readRegularFile(QStringLiteral("/dev/zero"), 100, &out, &error));
     EXPECT_FALSE(readRegularFile(dir.filePath(QStringLiteral("none")), 100, &out, &error));
+    ByteBlock block;
+    EXPECT_TRUE(readRegularFile(path, 5, &block, &error));
+    EXPECT_EQ(QByteArray(block.data(), qsizetype(block.size())), QByteArray("12345"));
+    EXPECT_FALSE(readRegularFile(path, 4, &block, &error));
+    EXPECT_TRUE(block.empty());
+    EXPECT_FALSE(readRegularFile(QStringLiteral("/dev/zero"), 100, &block, &error));
 
     QFile full(QStringLiteral("/dev/full"));
     ASSERT_TRUE(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));

@@ -1,6 +1,7 @@
 #include "platform/HttpTransfer.h"
 #include "LocalHttpServer.h"
 #include "TestSupport.h"
+#include "platform/Win1252.h"
 
 #include <gtest/gtest.h>
 
@@ -132,4 +133,87 @@ TEST(HttpTransfer, DecodePageChoosesTheCharset) {
     EXPECT_EQ(decodePage(QByteArray("\xC3\xA9"), QStringLiteral("windows-1252")),
               QStringLiteral("\u00c3\u00a9"));
     EXPECT_EQ(decodePage(QByteArray()), QString());
+}
+
+namespace {
+
+// How a page was always decoded: one pass of the decoder the rules name.
+QString plainDecoding(const QByteArray& bytes, const QString& header) {
+    if (bytes.startsWith("\xEF\xBB\xBF"))
+        return QString::fromUtf8(bytes.mid(3));
+    const QString charset = header.isEmpty() ? declaredCharset(bytes) : header;
+    if (charset.isEmpty()) {
+        QStringDecoder utf8(QStringDecoder::Utf8);
+        const QString text = utf8.decode(bytes);
+        return utf8.hasError() ? fromWin1252(bytes) : text;
+    }
+    if (charset.compare(QLatin1String("windows-1252"), Qt::CaseInsensitive) == 0)
+        return fromWin1252(bytes);
+    QStringDecoder d(charset.toLatin1().constData());
+    return d.decode(bytes);
+}
+
+QString joinedParts(const QByteArray& bytes, const QString& header) {
+    QString joined;
+    int parts = 0;
+    decodePageInParts(bytes, header, [&](QStringView part) {
+        joined += part;
+        ++parts;
+    });
+    EXPECT_GE(parts, bytes.size() / (64 * 1024));
+    return joined;
+}
+
+} // namespace
+
+// Pages of a few hundred kilobytes, decoded whole and a part at a time, agree with each other
+// and with a single pass of the decoder: with characters of every length near the part
+// boundaries, with malformed sequences (overlong, surrogate, beyond U+10FFFF, cut short at
+// the end), with and without a byte-order mark or a declared charset.
+TEST(HttpTransfer, DecodingInPartsGivesTheWholeText) {
+    const QList<QByteArray> valid = {"a",
+                                     " ",
+                                     "\xC3\xA9",
+                                     "\xE2\x82\xAC",
+                                     "\xF0\x9F\x98\x80",
+                                     "\xEF\xBF\xBE",
+                                     "\xF4\x8F\xBF\xBF",
+                                     "\r\n"};
+    const QList<QByteArray> broken = {"\xED\xA0\x80", "\xC0\x80", "\xF4\x90\x80\x80", "\x80",
+                                      "\xE2\x82"};
+    quint32 seed = 5;
+    auto next = [&seed] {
+        seed = seed * 1103515245u + 12345u;
+        return seed >> 16;
+    };
+    auto page = [&](bool withBroken) {
+        QByteArray bytes;
+        while (bytes.size() < 300 * 1024) {
+            for (int i = int(next() % 4); i > 0; --i)
+                bytes += 'x';
+            bytes += withBroken && next() % 4 == 0 ? broken[int(next() % broken.size())]
+                                                   : valid[int(next() % valid.size())];
+        }
+        return bytes;
+    };
+    const QByteArray good = page(false);
+    const QByteArray bad = page(true);
+    const QList<QPair<QByteArray, QString>> cases = {
+        {good, {}},
+        {good + "\xE2\x82", {}}, // cut short at the end only: still read as UTF-8
+        {bad, {}},
+        {"\xEF\xBB\xBF" + bad, {}},
+        {"\xEF\xBB\xBF" + good, {}},
+        {bad, QStringLiteral("windows-1252")},
+        {good, QStringLiteral("iso-8859-1")},
+        {bad, QStringLiteral("utf-8")},
+        {"<meta charset=\"utf-16le\">" + good, {}},
+    };
+    for (const auto& [bytes, header] : cases) {
+        const QString whole = decodePage(bytes, header);
+        EXPECT_EQ(whole, plainDecoding(bytes, header)) << header.toStdString();
+        EXPECT_EQ(joinedParts(bytes, header), whole) << header.toStdString();
+    }
+    EXPECT_EQ(decodePage(good), QString::fromUtf8(good));
+    EXPECT_EQ(decodePage(bad), fromWin1252(bad));
 }
