@@ -8,23 +8,6 @@ namespace brevaro {
 
 namespace {
 
-enum CharClass : unsigned char { kKeep, kRemove, kReject };
-
-// The 17 removed and 24 rejecting characters; every other character is kept.
-const std::array<CharClass, 128>& asciiClasses() {
-    static const std::array<CharClass, 128> table = [] {
-        std::array<CharClass, 128> t{};
-        for (char c : std::string_view(".\",!?:'_|[]()\r\n\t"))
-            t[static_cast<unsigned char>(c)] = kRemove;
-        for (char c : std::string_view("0123456789-+<>/\\$&;{}%=@"))
-            t[static_cast<unsigned char>(c)] = kReject;
-        return t;
-    }();
-    return table;
-}
-
-constexpr qsizetype kLongestStopWord = 9;
-
 const char* const kStopWordList =
     "a able add after again age ages align all allows also am an and any anything are at "
     "been border both but by can comments div down else etc few following for from fully "
@@ -110,51 +93,21 @@ bool isStopWord(QStringView word) {
 }
 
 qsizetype keptCharacters(QStringView piece, char16_t* out) {
-    const auto& classes = asciiClasses();
     qsizetype n = 0;
     for (QChar c : piece) {
         const char16_t u = c.unicode();
-        const CharClass k = u < 128 ? classes[u] : (u == 0x00A9 ? kRemove : kKeep);
-        if (k == kReject)
+        const CharKind k = u < 128 ? kAsciiRules[u].kind : (u == 0x00A9 ? kRemoved : kKept);
+        if (k == kRejecting)
             return -1;
-        if (k == kKeep)
+        if (k != kRemoved)
             out[n++] = u;
     }
     return n;
 }
 
-// One pass over the piece does it all: removing, rejecting, folding and the stop-word key.
 qsizetype cleanPiece(QStringView piece, char16_t* word, char16_t* key) {
-    const auto& classes = asciiClasses();
-    qsizetype n = 0;
-    quint64 stopKey = 0;
-    bool mayStop = true; // nothing but letters a to z so far, and no more than a stop word has
-    bool ascii = true;
-    for (const QChar qc : piece) {
-        const char16_t c = qc.unicode();
-        if (c < 128) {
-            const CharClass k = classes[c];
-            if (k == kReject)
-                return 0;
-            if (k == kRemove)
-                continue;
-            const auto lower = c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c;
-            if (lower >= u'a' && lower <= u'z' && n < kLongestStopWord)
-                stopKey |= quint64(lower - u'a' + 1) << (5 * n);
-            else
-                mayStop = false;
-            word[n] = c;
-            key[n++] = lower;
-        } else if (c != 0x00A9) {
-            ascii = false;
-            word[n] = c;
-            key[n++] = qc.toCaseFolded().unicode();
-        }
-    }
-    if (n == 0)
-        return 0;
-    const bool stop = ascii ? mayStop && isPackedStopWord(stopKey) : isStopWord({word, n});
-    return stop ? 0 : n;
+    const PieceScan scan = scanPiece(piece.utf16(), piece.utf16() + piece.size(), word, key);
+    return scan.rejected || isEmptyOrStopWord(scan, word) ? 0 : scan.kept;
 }
 
 QString foldedWord(QStringView word) {

@@ -87,27 +87,44 @@ int WordTally::seed(QStringView word, QStringView key) {
 }
 
 void WordTally::addText(QStringView part, const std::function<void()>& pump) {
-    const char16_t* start = part.utf16();
-    const char16_t* const end = start + part.size();
+    const char16_t* p = part.utf16();
+    const char16_t* const end = p + part.size();
     if (!m_open.empty()) {
-        const char16_t* const blank = std::find(start, end, u' ');
-        m_open.insert(m_open.end(), start, blank);
+        const char16_t* const blank = std::find(p, end, u' ');
+        m_open.insert(m_open.end(), p, blank);
         if (blank == end)
             return;
         addPiece(QStringView(m_open.data(), qsizetype(m_open.size())));
         m_open.clear();
-        start = blank + 1;
+        p = blank + 1;
     }
+    // Each piece is cleaned straight into the batch on the way to its blank; one longer than
+    // kShort characters takes the general way.
+    constexpr qsizetype kShort = 64;
     for (;;) {
-        const char16_t* const blank = std::find(start, end, u' ');
-        if (blank == end)
-            break;
-        addPiece(QStringView(start, blank - start));
-        start = blank + 1;
+        if (qsizetype(m_batchWords.size()) - m_batchUsed < kShort)
+            flush();
+        const char16_t* const limit = end - p > kShort ? p + kShort : end;
+        char16_t* const word = m_batchWords.data() + m_batchUsed;
+        char16_t* const key = m_batchKeys.data() + m_batchUsed;
+        const PieceScan scan = scanPiece(p, limit, word, key);
+        const char16_t* blank = scan.end;
+        if (scan.rejected || blank == limit) {
+            blank = std::find(blank, end, u' ');
+            if (blank == end) {
+                // The piece goes on in the next part, or is the text after the last blank.
+                m_open.assign(p, end);
+                return;
+            }
+            if (!scan.rejected)
+                addPiece(QStringView(p, blank - p));
+        } else if (!isEmptyOrStopWord(scan, word)) {
+            queue(scan.kept);
+        }
+        p = blank + 1;
         if (pump && ++m_pieces % 4096 == 0)
             pump();
     }
-    m_open.assign(start, end);
 }
 
 void WordTally::finishText() {
@@ -123,11 +140,15 @@ void WordTally::addPiece(QStringView piece) {
             m_batchKeys.resize(std::size_t(piece.size()));
         }
     }
-    char16_t* const key = m_batchKeys.data() + m_batchUsed;
-    const qsizetype kept = cleanPiece(piece, m_batchWords.data() + m_batchUsed, key);
-    if (kept == 0)
-        return;
-    const quint64 hash = FoldedWordTable::hashOf(QStringView(key, kept));
+    const qsizetype kept =
+        cleanPiece(piece, m_batchWords.data() + m_batchUsed, m_batchKeys.data() + m_batchUsed);
+    if (kept > 0)
+        queue(kept);
+}
+
+void WordTally::queue(qsizetype kept) {
+    const quint64 hash =
+        FoldedWordTable::hashOf(QStringView(m_batchKeys.data() + m_batchUsed, kept));
     m_table.prefetch(hash);
     m_pending[std::size_t(m_waiting++)] = {m_batchUsed, kept, hash};
     m_batchUsed += kept;

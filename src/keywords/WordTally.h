@@ -47,7 +47,10 @@ public:
     std::vector<int> targets() const;
 
 private:
+    // Cleans a whole piece into the batch and queues it.
     void addPiece(QStringView piece);
+    // Queues the word of kept characters just cleaned into the batch.
+    void queue(qsizetype kept);
     void flush();
     int insert(QStringView word, QStringView key, quint64 hash, int count);
     // Lexicographic order of two keys, by UTF-16 units.
