@@ -176,17 +176,32 @@ QString KeywordList::RebuildKeywords(const QString& current) const {
 // Entries that compare equal stay in order of first appearance.
 void KeywordList::sortByColumn(int column) {
     m_sortColumn = column == 0 ? 0 : 1;
-    if (m_sortColumn == 0)
+    if (m_sortColumn == 0) {
         std::sort(m_order.begin(), m_order.end(), [this](int a, int b) {
             const int c = wordOf(a).compare(wordOf(b), Qt::CaseInsensitive);
             return c < 0 || (c == 0 && a < b);
         });
-    else
+        return;
+    }
+    const int n = size();
+    const int highest = n == 0 ? 0 : *std::max_element(m_counts.begin(), m_counts.end());
+    if (highest > 4 * n + 1024) {
         std::sort(m_order.begin(), m_order.end(), [this](int a, int b) {
             const int x = m_counts[std::size_t(a)];
             const int y = m_counts[std::size_t(b)];
             return x > y || (x == y && a < b);
         });
+        return;
+    }
+    // Counts are small numbers: the entries are dealt into one place per count, highest first,
+    // in order of first appearance.
+    std::vector<int> starts(std::size_t(highest) + 2, 0);
+    for (int count : m_counts)
+        ++starts[std::size_t(highest - count) + 1];
+    for (std::size_t i = 1; i < starts.size(); ++i)
+        starts[i] += starts[i - 1];
+    for (int entry = 0; entry < n; ++entry)
+        m_order[std::size_t(starts[std::size_t(highest - m_counts[std::size_t(entry)])]++)] = entry;
 }
 
 std::vector<KeywordEntry> KeywordList::entries() const {

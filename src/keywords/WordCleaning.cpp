@@ -8,71 +8,18 @@ namespace brevaro {
 
 namespace {
 
-const char* const kStopWordList =
-    "a able add after again age ages align all allows also am an and any anything are at "
-    "been border both but by can comments div down else etc few following for from fully "
-    "get getting give go got had has have having help helps here how href i if in into "
-    "input is it its key keys know like lost made make many me more must my no not now of "
-    "off on one or other our out own page pages rated remove return same save see select "
-    "sent some sometime sorry such take tell thank thanks that the their them then thing "
-    "things this through to top under up us use uses using via want was we when where "
-    "which who will wish with within without worked year years yet you your";
-
 const QSet<QString>& stopWords() {
     static const QSet<QString> words = [] {
         QSet<QString> set;
-        for (const QString& w : QString::fromLatin1(kStopWordList).split(u' '))
+        for (const QString& w :
+             QString::fromLatin1(kStopWordList.data(), qsizetype(kStopWordList.size())).split(u' '))
             set.insert(w);
         return set;
     }();
     return words;
 }
 
-// A word of at most nine letters a to z is packed into five bits a letter, a = 1.
-
-// The stop words packed, in a small table with open addressing; 0 marks a free slot.
-constexpr int kStopBits = 9;
-using StopTable = std::array<quint64, std::size_t(1) << kStopBits>;
-
-std::size_t stopSlot(quint64 key) {
-    return std::size_t((key * 0x9E3779B97F4A7C15ull) >> (64 - kStopBits));
-}
-
-const StopTable& packedStopWords() {
-    static const StopTable table = [] {
-        StopTable t{};
-        quint64 key = 0;
-        int at = 0;
-        for (const char* p = kStopWordList;; ++p) {
-            if (*p == ' ' || *p == 0) {
-                std::size_t i = stopSlot(key);
-                while (t[i] != 0)
-                    i = (i + 1) % t.size();
-                t[i] = key;
-                key = 0;
-                at = 0;
-                if (*p == 0)
-                    break;
-            } else {
-                key |= quint64(*p - 'a' + 1) << (5 * at++);
-            }
-        }
-        return t;
-    }();
-    return table;
-}
-
 } // namespace
-
-bool isPackedStopWord(quint64 key) {
-    const StopTable& table = packedStopWords();
-    for (std::size_t i = stopSlot(key);; i = (i + 1) % table.size()) {
-        if (table[i] == key)
-            return true;
-        if (table[i] == 0)
-            return false;
-    }
-}
 
 bool isStopWord(QStringView word) {
     if (word.isEmpty() || word.size() > kLongestStopWord)

@@ -49,9 +49,54 @@ qsizetype keptCharacters(QStringView piece, char16_t* out);
 // Whether word, as cleaned and before trimming, is a stop word, case ignored. Words of plain
 // ASCII are answered without building a string; others take the full lower-casing.
 bool isStopWord(QStringView word);
-// A word of at most nine letters a to z packed five bits a letter (a = 1, first letter in
-// the lowest bits): whether it is a stop word.
-bool isPackedStopWord(quint64 key);
+
+inline constexpr std::string_view kStopWordList =
+    "a able add after again age ages align all allows also am an and any anything are at "
+    "been border both but by can comments div down else etc few following for from fully "
+    "get getting give go got had has have having help helps here how href i if in into "
+    "input is it its key keys know like lost made make many me more must my no not now of "
+    "off on one or other our out own page pages rated remove return same save see select "
+    "sent some sometime sorry such take tell thank thanks that the their them then thing "
+    "things this through to top under up us use uses using via want was we when where "
+    "which who will wish with within without worked year years yet you your";
+
+// A word of at most nine letters a to z is packed five bits a letter (a = 1, the first
+// letter in the lowest bits). The stop words packed sit in a small table with open
+// addressing, made when the program is built; 0 marks a free slot.
+inline constexpr int kStopBits = 9;
+
+constexpr std::size_t stopSlot(quint64 key) {
+    return std::size_t((key * 0x9E3779B97F4A7C15ull) >> (64 - kStopBits));
+}
+
+inline constexpr std::array<quint64, std::size_t(1) << kStopBits> kPackedStopWords = [] {
+    std::array<quint64, std::size_t(1) << kStopBits> t{};
+    quint64 key = 0;
+    int at = 0;
+    for (std::size_t p = 0; p <= kStopWordList.size(); ++p) {
+        if (p == kStopWordList.size() || kStopWordList[p] == ' ') {
+            std::size_t i = stopSlot(key);
+            while (t[i] != 0)
+                i = (i + 1) % t.size();
+            t[i] = key;
+            key = 0;
+            at = 0;
+        } else {
+            key |= quint64(kStopWordList[p] - 'a' + 1) << (5 * at++);
+        }
+    }
+    return t;
+}();
+
+// Whether the packed word is a stop word.
+inline bool isPackedStopWord(quint64 key) {
+    for (std::size_t i = stopSlot(key);; i = (i + 1) % kPackedStopWords.size()) {
+        if (kPackedStopWords[i] == key)
+            return true;
+        if (kPackedStopWords[i] == 0)
+            return false;
+    }
+}
 
 // A piece cleaned on the way to its end.
 struct PieceScan {

@@ -47,11 +47,12 @@ std::u16string_view viewOf(QStringView s) {
 
 void WordTally::reserve(std::size_t n) {
     m_table.reserve(n);
-    m_start.reserve(n);
-    m_length.reserve(n);
-    m_count.reserve(n);
-    m_keys.reserve(n * 8);
-    m_words.reserve(n * 8);
+    // Reserved room is only address space until it is written, so the stores get plenty.
+    m_start.reserve(2 * n);
+    m_length.reserve(2 * n);
+    m_count.reserve(2 * n);
+    m_keys.reserve(n * 32);
+    m_words.reserve(n * 32);
 }
 
 QStringView WordTally::word(int id) const {
