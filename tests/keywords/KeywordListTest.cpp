@@ -62,7 +62,7 @@ TEST(KeywordList, CountsPastNineHundredNinetyNine) {
     QString page;
     for (int i = 0; i < 2000; ++i)
         page += QStringLiteral("widget ");
-    list.SplitWords(page + QStringLiteral("gadget gadget "));
+    list.SplitWords(QString(page + QStringLiteral("gadget gadget ")));
     EXPECT_EQ(listed(list), QStringLiteral("widget=2000 gadget=002"));
     KeywordEntry e{QStringLiteral("x"), 42, false};
     EXPECT_EQ(e.countText(), QStringLiteral("042"));
