@@ -3,6 +3,7 @@
 #include "keywords/WordCleaning.h"
 
 #include <algorithm>
+#include <array>
 #include <string_view>
 
 namespace brevaro {
@@ -37,6 +38,26 @@ bool samePackedStart(const SortRecord& a, const SortRecord& b, quint32 units) {
         units -= u;
     }
     return true;
+}
+
+using SortRecords = std::vector<SortRecord, LargePageAllocator<SortRecord>>;
+
+// Sorts by the first four characters: a radix sort, a byte a pass from the last, which skips
+// the bytes all records share (the high bytes of plain ASCII, say).
+void sortByFirstPack(SortRecords& records) {
+    SortRecords other(records.size());
+    for (int shift = 0; shift < 64; shift += 8) {
+        std::array<std::size_t, 257> start{};
+        for (const SortRecord& r : records)
+            ++start[((r.pack[0] >> shift) & 255) + 1];
+        if (std::find(start.begin(), start.end(), records.size()) != start.end())
+            continue;
+        for (std::size_t i = 1; i < start.size(); ++i)
+            start[i] += start[i - 1];
+        for (const SortRecord& r : records)
+            other[start[(r.pack[0] >> shift) & 255]++] = r;
+        records.swap(other);
+    }
 }
 
 std::u16string_view viewOf(QStringView s) {
@@ -178,16 +199,24 @@ int WordTally::compareKeys(int a, int b) const {
 // In sorted order, the keys that begin with a key follow it as one run; a stack of the keys
 // whose runs are open finds, for each, the lowest number in its run in one pass.
 std::vector<int> WordTally::targets() const {
-    std::vector<SortRecord, LargePageAllocator<SortRecord>> records;
+    SortRecords records;
     records.reserve(std::size_t(size()));
     for (int id = 0; id < size(); ++id)
         records.push_back(recordOf(id, viewOf(key(id))));
-    std::sort(records.begin(), records.end(), [this](const SortRecord& a, const SortRecord& b) {
-        for (int w = 0; w < 3; ++w)
-            if (a.pack[w] != b.pack[w])
-                return a.pack[w] < b.pack[w];
-        return compareKeys(int(a.id), int(b.id)) < 0;
-    });
+    sortByFirstPack(records);
+    // Then each run that shares the first four characters by the rest.
+    for (auto run = records.begin(); run != records.end();) {
+        const auto end = std::find_if(
+            run + 1, records.end(), [&](const SortRecord& r) { return r.pack[0] != run->pack[0]; });
+        if (end - run > 1)
+            std::sort(run, end, [this](const SortRecord& a, const SortRecord& b) {
+                for (int w = 1; w < 3; ++w)
+                    if (a.pack[w] != b.pack[w])
+                        return a.pack[w] < b.pack[w];
+                return compareKeys(int(a.id), int(b.id)) < 0;
+            });
+        run = end;
+    }
 
     const auto begins = [this](const SortRecord& k, const SortRecord& prefix) {
         if (prefix.length > k.length ||
