@@ -95,16 +95,16 @@ quint32 WordTally::keepWord(QStringView word, QStringView key) {
 
 int WordTally::insert(QStringView word, QStringView key, quint64 hash, int count) {
     const int id = size();
-    m_table.insert(key, hash, id);
     m_start.push_back(keepWord(word, key));
     m_length.push_back(quint32(key.size()));
     m_count.push_back(count);
+    m_table.insert(hash, id, keyOf());
     return id;
 }
 
 int WordTally::seed(QStringView word, QStringView key) {
     const quint64 hash = FoldedWordTable::hashOf(key);
-    const int id = m_table.find(key, hash);
+    const int id = m_table.find(key, hash, keyOf());
     return id >= 0 ? id : insert(word, key, hash, 0);
 }
 
@@ -182,7 +182,7 @@ void WordTally::flush() {
     for (int i = 0; i < m_waiting; ++i) {
         const Pending& p = m_pending[std::size_t(i)];
         const QStringView key(m_batchKeys.data() + p.at, p.length);
-        const int id = m_table.find(key, p.hash);
+        const int id = m_table.find(key, p.hash, keyOf());
         if (id >= 0)
             ++m_count[std::size_t(id)];
         else

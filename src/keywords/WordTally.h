@@ -53,6 +53,11 @@ private:
     void queue(qsizetype kept);
     void flush();
     int insert(QStringView word, QStringView key, quint64 hash, int count);
+    auto keyOf() const {
+        return [this](int id) {
+            return key(id);
+        };
+    }
     // Lexicographic order of two keys, by UTF-16 units.
     int compareKeys(int a, int b) const;
 

@@ -11,8 +11,9 @@
 namespace brevaro {
 
 // Allocator for big buffers and tables (a page of many megabytes, the keyword tables). Blocks
-// of 2 MiB and more are aligned to 2 MiB and, on Linux, offered huge pages, so that they cost
-// few page faults and, read at random, few TLB misses; smaller blocks come from the usual heap.
+// of half a MiB and more are rounded up to whole huge pages of 2 MiB, aligned to them and, on
+// Linux, offered huge pages: filling one costs less than faulting in its small pages one by
+// one, and a table read at random costs few TLB misses. Smaller blocks come from the heap.
 template <typename T> struct LargePageAllocator {
     using value_type = T;
 
@@ -21,7 +22,7 @@ template <typename T> struct LargePageAllocator {
 
     T* allocate(std::size_t n) {
         const std::size_t bytes = n * sizeof(T);
-        if (bytes < kLarge)
+        if (bytes < kLeast)
             return std::allocator<T>().allocate(n);
         const std::size_t rounded = (bytes + kLarge - 1) / kLarge * kLarge;
         void* p = std::aligned_alloc(kLarge, rounded);
@@ -34,7 +35,7 @@ template <typename T> struct LargePageAllocator {
     }
 
     void deallocate(T* p, std::size_t n) {
-        if (n * sizeof(T) < kLarge)
+        if (n * sizeof(T) < kLeast)
             std::allocator<T>().deallocate(p, n);
         else
             std::free(p);
@@ -46,6 +47,7 @@ template <typename T> struct LargePageAllocator {
 
 private:
     static constexpr std::size_t kLarge = std::size_t(2) << 20;
+    static constexpr std::size_t kLeast = kLarge / 4;
 };
 
 } // namespace brevaro
