@@ -3,13 +3,9 @@
 #include "store/RecordStore.h"
 
 #include <QDir>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QProcess>
-#include <QRandomGenerator>
 #include <QThread>
 #include <gtest/gtest.h>
-#include <iostream>
 
 using namespace brevaro;
 using namespace brevaro::test;
@@ -136,48 +132,4 @@ TEST(CliHomeSafety, StrayTemporaryFilesAreCleared) {
     writeBytes(t.file(QStringLiteral("data/deletion.intent.AseIiT")), "half an intent");
     ASSERT_EQ(runCliIn(t, words({"new-company", "C"})).status, 0);
     EXPECT_EQ(dataFiles(t), (QStringList{QStringLiteral("2.dta"), QStringLiteral("company.dta")}));
-}
-
-// Killed at any moment, a set of a company field and a program field leaves both changed or
-// neither, once the next command has started.
-TEST(CliHomeSafety, KilledSetChangesBothOrNeither) {
-    TempHome t;
-    twoCompanies(t);
-    QRandomGenerator random(7);
-    int both = 0, neither = 0;
-    for (int run = 1; run <= 100; ++run) {
-        const QString value = QString::number(run);
-        QProcess writer;
-        writer.start(QStringLiteral(BREVARO_CLI),
-                     {QStringLiteral("--home"), t.path(), QStringLiteral("set"),
-                      QStringLiteral("-c"), QStringLiteral("B"), QStringLiteral("-p"),
-                      QStringLiteral("P"), QStringLiteral("CityTown=") + value,
-                      QStringLiteral("ProgramVersion=") + value});
-        ASSERT_TRUE(writer.waitForStarted());
-        QThread::msleep(random.bounded(5, 60));
-        writer.kill();
-        writer.waitForFinished();
-        const CliResult show = runCliIn(t, words({"show", "-c", "B", "--json"}));
-        ASSERT_EQ(show.status, 0) << show.err.toStdString();
-        const QJsonObject json = QJsonDocument::fromJson(show.out).object();
-        const QString city =
-            json[QStringLiteral("company")].toObject()[QStringLiteral("CityTown")].toString();
-        const QString version =
-            json[QStringLiteral("program")].toObject()[QStringLiteral("ProgramVersion")].toString();
-        const bool cityNew = city == value, versionNew = version == value;
-        EXPECT_EQ(cityNew, versionNew)
-            << "run " << run << ": " << city.toStdString() << " / " << version.toStdString();
-        // Leave both at this run's value for the next round.
-        if (!cityNew) {
-            ASSERT_EQ(
-                runCliIn(t, QStringList{QStringLiteral("set"), QStringLiteral("-c"),
-                                        QStringLiteral("B"), QStringLiteral("-p"),
-                                        QStringLiteral("P"), QStringLiteral("CityTown=") + value,
-                                        QStringLiteral("ProgramVersion=") + value})
-                    .status,
-                0);
-        }
-        (cityNew ? both : neither) += 1;
-    }
-    std::cout << "killed set: " << both << " saved whole, " << neither << " not saved\n";
 }

@@ -1,7 +1,22 @@
-// A fetched page: decoded by its declared or detected encoding, then its words counted.
+// A fetched page: decoded by its declared or detected encoding, then its words counted. The
+// page is also decoded a part at a time and counted in parts cut where the input says: both
+// ways must give the same list.
 #include "FuzzSupport.h"
 #include "keywords/KeywordSuggester.h"
 #include "platform/HttpTransfer.h"
+
+#include <cstdlib>
+
+namespace {
+
+QStringList listed(const brevaro::KeywordList& list) {
+    QStringList out;
+    for (const auto& e : list.entries())
+        out << e.word + u'=' + QString::number(e.count);
+    return out;
+}
+
+} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
     using namespace brevaro;
@@ -15,6 +30,22 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
     const QString header = end > 0 && end < 40 ? QString::fromLatin1(bytes.left(end)) : QString();
     declaredCharset(bytes);
     KeywordSuggester suggester(*http);
-    suggester.checkPage(decodePage(bytes, header));
-    return suggester.keywords.isNull() && size > std::size_t(1) << 30;
+    const QString page = decodePage(bytes, header);
+    suggester.checkPage(page);
+
+    QString joined;
+    decodePageInParts(bytes, header, [&](QStringView part) { joined += part; });
+    KeywordList inParts;
+    KeywordCounting counting(inParts, std::size_t(joined.size()));
+    // Parts of 1 to 16 characters, the lengths taken from the input's bytes in turn.
+    for (qsizetype at = 0, i = 0; at < joined.size(); ++i) {
+        const qsizetype n =
+            std::min<qsizetype>(1 + (data[std::size_t(i) % size] & 15), joined.size() - at);
+        counting.add(QStringView(joined).sliced(at, n));
+        at += n;
+    }
+    counting.finish();
+    if (joined != page || listed(inParts) != listed(suggester.list()))
+        std::abort();
+    return 0;
 }

@@ -248,7 +248,7 @@ TEST(KeywordList, AgreesWithAPlainScanOfTheList) {
 
 // SplitWords over a text counts as CountWord over each of its pieces, cleaning included, and
 // then sorts: with punctuation, stop words, rejected words, a piece longer than the batches
-// SplitWords works in, and runs of blanks.
+// SplitWords works in, and runs of blanks. Counting the text in parts gives the same.
 TEST(KeywordList, SplittingCountsAsCountWordDoes) {
     const QStringList parts = {QStringLiteral("Soft."),         QStringLiteral("software"),
                                QStringLiteral("SOFT"),          QStringLiteral("the"),
@@ -272,4 +272,15 @@ TEST(KeywordList, SplittingCountsAsCountWordDoes) {
     oneByOne.sortByColumn(1);
     EXPECT_EQ(listCounts(split), listCounts(oneByOne));
     EXPECT_GT(split.size(), 8);
+
+    // The same text in parts of 1 to 200 characters, cut anywhere, pieces included.
+    KeywordList inParts;
+    KeywordCounting counting(inParts, std::size_t(text.size()));
+    for (qsizetype at = 0; at < text.size();) {
+        const qsizetype n = std::min<qsizetype>(1 + nextRandom(seed) % 200, text.size() - at);
+        counting.add(QStringView(text).sliced(at, n));
+        at += n;
+    }
+    counting.finish();
+    EXPECT_EQ(listCounts(inParts), listCounts(split));
 }

@@ -1,0 +1,298 @@
+// Writers killed at random moments, each run on a fresh copy of a home with many records.
+// Once the next command has started, the home must hold the state from before the command or
+// the state after it: every record whole, every program stamped with its company's number,
+// and, once a writer has started, no file the program does not own. The random moments are
+// seeded, so a failure can be run again.
+#include "CliTestSupport.h"
+#include "records/ProgramRecord.h"
+#include "store/RecordStore.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QThread>
+#include <gtest/gtest.h>
+#include <iostream>
+
+using namespace brevaro;
+using namespace brevaro::test;
+
+// runCliIn works on a TempHome; these runs work on a copy in a plain temporary folder.
+namespace brevaro::test {
+CliResult runCliIn(const QTemporaryDir& dir, const QStringList& args) {
+    QStringList all{QStringLiteral("--home"), dir.path()};
+    all << args;
+    QByteArray none;
+    QBuffer in(&none), out, err;
+    in.open(QIODevice::ReadOnly);
+    out.open(QIODevice::WriteOnly);
+    err.open(QIODevice::WriteOnly);
+    CliResult r;
+    r.status = cli::runCli(all, QString(), in, out, err);
+    r.out = out.data();
+    r.err = QString::fromUtf8(err.data());
+    return r;
+}
+} // namespace brevaro::test
+
+namespace {
+
+constexpr int kCompanies = 30;
+constexpr int kRuns = 40;
+
+// The record files of a home, by name.
+using RecordFiles = QMap<QString, QByteArray>;
+
+RecordFiles recordFiles(const QString& home) {
+    static const QRegularExpression name(QStringLiteral("^(company|[1-9][0-9]*)\\.dta$"));
+    RecordFiles files;
+    const QDir data(home + QStringLiteral("/data"));
+    for (const QString& f : data.entryList(QDir::Files | QDir::Hidden))
+        if (name.match(f).hasMatch())
+            files[f] = readBytes(data.filePath(f));
+    return files;
+}
+
+// Whether the data folder holds anything besides record files: an intent, a file being put
+// in place, a temporary file.
+bool holdsWorkInProgress(const QString& home) {
+    static const QRegularExpression name(QStringLiteral("^(company|[1-9][0-9]*)\\.dta$"));
+    const QDir data(home + QStringLiteral("/data"));
+    for (const QString& f : data.entryList(QDir::Files | QDir::Hidden))
+        if (!name.match(f).hasMatch())
+            return true;
+    return false;
+}
+
+void copyFolder(const QString& from, const QString& to) {
+    QDir().mkpath(to);
+    const QDir source(from);
+    for (const QFileInfo& info :
+         source.entryInfoList(QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot)) {
+        const QString target = to + u'/' + info.fileName();
+        if (info.isDir()) {
+            copyFolder(info.filePath(), target);
+        } else if (info.fileName() != QLatin1String("brevaro.lock")) {
+            ASSERT_TRUE(QFile::copy(info.filePath(), target)) << target.toStdString();
+        }
+    }
+}
+
+// Companies C1 to C30, each with two programs (Pna and Pnb).
+void manyRecords(const TempHome& t) {
+    for (int c = 1; c <= kCompanies; ++c) {
+        const QByteArray name = "C" + QByteArray::number(c);
+        ASSERT_EQ(runCliIn(t, words({"new-company", name.constData()})).status, 0);
+        for (const char* suffix : {"a", "b"}) {
+            const QByteArray program = "P" + QByteArray::number(c) + suffix;
+            ASSERT_EQ(
+                runCliIn(t, words({"new-program", "-c", name.constData(), program.constData()}))
+                    .status,
+                0);
+        }
+    }
+}
+
+// The files the program may leave in data/ once a writer has started, whole, with every
+// program stamped with its company's number.
+void expectWholeAndStamped(const QString& home) {
+    const RecordStore store{AppHome(home)};
+    const QDir data(home + QStringLiteral("/data"));
+    const int companies = store.companyCount();
+    EXPECT_EQ(QFileInfo(data.filePath(QStringLiteral("company.dta"))).size() % 842, 0);
+    for (const QString& f : data.entryList(QDir::Files | QDir::Hidden)) {
+        if (f == QLatin1String("company.dta"))
+            continue;
+        bool number = false;
+        const int id = f.chopped(4).toInt(&number);
+        ASSERT_TRUE(f.endsWith(QLatin1String(".dta")) && number && id >= 1 && id <= companies)
+            << "a file that should not be there: " << f.toStdString();
+        EXPECT_EQ(QFileInfo(data.filePath(f)).size() % ProgramRecord::kLength, 0)
+            << f.toStdString();
+        const auto programs = store.programFile(id).readAll();
+        ASSERT_TRUE(programs.has_value()) << f.toStdString();
+        for (const QByteArray& bytes : *programs) {
+            ProgramRecord r;
+            r.setBytes(bytes);
+            EXPECT_EQ(r.number(ProgramField::CompanyID), id) << f.toStdString();
+        }
+    }
+}
+
+struct Figures {
+    int runs = 0;
+    int before = 0;
+    int after = 0;
+    int midWrite = 0; // the kill left work for the next start to finish or undo
+    int violations = 0;
+};
+
+class KilledCommands : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        s_template = new TempHome;
+        manyRecords(*s_template);
+    }
+    static void TearDownTestSuite() {
+        delete s_template;
+        s_template = nullptr;
+    }
+
+    // A fresh copy of the home with many records.
+    static QString freshHome(QTemporaryDir& dir) {
+        copyFolder(s_template->path(), dir.path());
+        return dir.path();
+    }
+
+    static QProcess* start(const QString& home, const QStringList& args) {
+        auto* p = new QProcess;
+        p->start(QStringLiteral(BREVARO_CLI), QStringList{QStringLiteral("--home"), home} + args);
+        EXPECT_TRUE(p->waitForStarted());
+        return p;
+    }
+
+    // Runs args killed at a random moment in the second half of the time the command takes
+    // (the first goes to starting up), kRuns times; each run checked as the top of this file
+    // says.
+    Figures killRuns(const QStringList& args, quint32 seed) {
+        // The state after the command, and how long the command takes.
+        QTemporaryDir finished;
+        const QString done = freshHome(finished);
+        QElapsedTimer clock;
+        clock.start();
+        QProcess* whole = start(done, args);
+        whole->waitForFinished(60000);
+        const qint64 takesUs = std::max<qint64>(clock.nsecsElapsed() / 1000, 1000);
+        EXPECT_EQ(whole->exitCode(), 0) << whole->readAllStandardError().toStdString();
+        delete whole;
+        const RecordFiles before = recordFiles(s_template->path());
+        const RecordFiles after = recordFiles(done);
+        EXPECT_NE(before, after);
+
+        Figures f;
+        QRandomGenerator random(seed);
+        for (int run = 0; run < kRuns; ++run) {
+            QTemporaryDir dir;
+            const QString home = freshHome(dir);
+            QProcess* writer = start(home, args);
+            QThread::usleep(takesUs / 2 + random.bounded(takesUs / 2 + 1));
+            writer->kill();
+            writer->waitForFinished();
+            delete writer;
+            const RecordFiles left = recordFiles(home);
+            if (holdsWorkInProgress(home) || (left != before && left != after))
+                ++f.midWrite;
+            // The next start, a reader: it finishes or undoes what the kill left.
+            const CliResult list = runCliIn(dir, words({"list"}));
+            EXPECT_EQ(list.status, 0) << list.err.toStdString();
+            const RecordFiles now = recordFiles(home);
+            ++f.runs;
+            if (now == before)
+                ++f.before;
+            else if (now == after)
+                ++f.after;
+            else
+                ++f.violations;
+            EXPECT_TRUE(now == before || now == after) << "run " << run << " left a third state";
+            // A writer clears what is left of the killed one.
+            const CliResult writer2 = runCliIn(dir, words({"new-company", "Next"}));
+            EXPECT_EQ(writer2.status, 0) << writer2.err.toStdString();
+            expectWholeAndStamped(home);
+        }
+        return f;
+    }
+
+    static void report(const char* what, const Figures& f) {
+        std::cout << "killed " << what << ": " << f.runs << " runs, " << f.midWrite
+                  << " landed mid-write, " << f.before << " ended before, " << f.after << " after, "
+                  << f.violations << " violations\n";
+    }
+
+    static TempHome* s_template;
+};
+
+TempHome* KilledCommands::s_template = nullptr;
+
+} // namespace
+
+TEST_F(KilledCommands, SetOfACompanyAndAProgramField) {
+    const Figures f = killRuns(
+        words({"set", "-c", "C12", "-p", "P12b", "CityTown=Harbour", "ProgramVersion=9.9"}), 11);
+    report("set", f);
+    EXPECT_EQ(f.violations, 0);
+}
+
+TEST_F(KilledCommands, NewProgram) {
+    const Figures f = killRuns(words({"new-program", "-c", "C12", "Fresh"}), 12);
+    report("new-program", f);
+    EXPECT_EQ(f.violations, 0);
+}
+
+TEST_F(KilledCommands, NewCompany) {
+    const Figures f = killRuns(words({"new-company", "Fresh Company"}), 13);
+    report("new-company", f);
+    EXPECT_EQ(f.violations, 0);
+}
+
+// Deleting an early company renumbers every later one and renames their program files.
+TEST_F(KilledCommands, DeleteOfACompanyWithPrograms) {
+    const Figures f = killRuns(words({"delete", "-c", "C2"}), 14);
+    report("delete", f);
+    EXPECT_EQ(f.violations, 0);
+}
+
+TEST_F(KilledCommands, ImportOfACompanyAndItsProgram) {
+    QTemporaryDir pads;
+    const QString pad = pads.filePath(QStringLiteral("fresh.xml"));
+    writeBytes(pad, "<?xml version=\"1.0\"?>\r\n<XML_DIZ_INFO><Company_Info><Company_Name>Imported"
+                    "</Company_Name><City_Town>Harbour</City_Town></Company_Info><Program_Info>"
+                    "<Program_Name>Imported Notes</Program_Name><Program_Version>2.1"
+                    "</Program_Version></Program_Info></XML_DIZ_INFO>\r\n");
+    const Figures f = killRuns(QStringList{QStringLiteral("import"), pad}, 15);
+    report("import", f);
+    EXPECT_EQ(f.violations, 0);
+}
+
+// A reader started while a deletion runs, and the deletion killed at a random moment: the
+// reader prints the list from before or from after, or says the home is in use; never a mix.
+TEST_F(KilledCommands, ReaderRacingADeletion) {
+    QTemporaryDir finished;
+    const QString done = freshHome(finished);
+    ASSERT_EQ(runCliIn(finished, words({"delete", "-c", "C2"})).status, 0);
+    const QByteArray before = runCliIn(*s_template, words({"list"})).out;
+    const QByteArray after = runCliIn(finished, words({"list"})).out;
+    QRandomGenerator random(16);
+    int printedBefore = 0, printedAfter = 0, refused = 0;
+    for (int run = 0; run < kRuns; ++run) {
+        QTemporaryDir dir;
+        const QString home = freshHome(dir);
+        QProcess* writer = start(home, words({"delete", "-c", "C2"}));
+        QThread::usleep(random.bounded(20000));
+        QProcess* reader = start(home, words({"list"}));
+        QThread::usleep(random.bounded(40000));
+        writer->kill();
+        writer->waitForFinished();
+        ASSERT_TRUE(reader->waitForFinished(30000));
+        const QByteArray printed = reader->readAllStandardOutput();
+        if (reader->exitCode() != 0) {
+            ++refused;
+            EXPECT_TRUE(printed.isEmpty());
+            EXPECT_TRUE(reader->readAllStandardError().contains("in use"));
+        } else if (printed == before) {
+            ++printedBefore;
+        } else {
+            EXPECT_EQ(printed, after) << "run " << run << " printed a mix";
+            printedAfter += printed == after ? 1 : 0;
+        }
+        delete writer;
+        delete reader;
+        ASSERT_EQ(runCliIn(dir, words({"new-company", "Next"})).status, 0);
+        expectWholeAndStamped(home);
+    }
+    std::cout << "reader racing a deletion: " << kRuns << " runs, " << printedBefore
+              << " printed the list before, " << printedAfter << " after, " << refused
+              << " refused\n";
+}
