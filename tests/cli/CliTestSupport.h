@@ -7,9 +7,9 @@
 
 namespace brevaro::test {
 
-// Runs brevaro-cli in this process on the given home.
-inline CliResult runCliIn(const TempHome& t, QStringList args, const QByteArray& input = {}) {
-    args.prepend(t.path());
+// Runs brevaro-cli in this process on the home at path.
+inline CliResult runCliAt(const QString& home, QStringList args, const QByteArray& input = {}) {
+    args.prepend(home);
     args.prepend(QStringLiteral("--home"));
     QByteArray inBytes = input;
     QBuffer in(&inBytes), out, err;
@@ -21,6 +21,12 @@ inline CliResult runCliIn(const TempHome& t, QStringList args, const QByteArray&
     r.out = out.data();
     r.err = QString::fromUtf8(err.data());
     return r;
+}
+
+// Runs brevaro-cli in this process on the given home.
+inline CliResult runCliIn(const TempHome& t, const QStringList& args,
+                          const QByteArray& input = {}) {
+    return runCliAt(t.path(), args, input);
 }
 
 // Command-line words from plain strings.

@@ -20,24 +20,6 @@
 using namespace brevaro;
 using namespace brevaro::test;
 
-// runCliIn works on a TempHome; these runs work on a copy in a plain temporary folder.
-namespace brevaro::test {
-CliResult runCliIn(const QTemporaryDir& dir, const QStringList& args) {
-    QStringList all{QStringLiteral("--home"), dir.path()};
-    all << args;
-    QByteArray none;
-    QBuffer in(&none), out, err;
-    in.open(QIODevice::ReadOnly);
-    out.open(QIODevice::WriteOnly);
-    err.open(QIODevice::WriteOnly);
-    CliResult r;
-    r.status = cli::runCli(all, QString(), in, out, err);
-    r.out = out.data();
-    r.err = QString::fromUtf8(err.data());
-    return r;
-}
-} // namespace brevaro::test
-
 namespace {
 
 constexpr int kCompanies = 30;
@@ -186,7 +168,7 @@ protected:
             if (holdsWorkInProgress(home) || (left != before && left != after))
                 ++f.midWrite;
             // The next start, a reader: it finishes or undoes what the kill left.
-            const CliResult list = runCliIn(dir, words({"list"}));
+            const CliResult list = runCliAt(dir.path(), words({"list"}));
             EXPECT_EQ(list.status, 0) << list.err.toStdString();
             const RecordFiles now = recordFiles(home);
             ++f.runs;
@@ -198,7 +180,7 @@ protected:
                 ++f.violations;
             EXPECT_TRUE(now == before || now == after) << "run " << run << " left a third state";
             // A writer clears what is left of the killed one.
-            const CliResult writer2 = runCliIn(dir, words({"new-company", "Next"}));
+            const CliResult writer2 = runCliAt(dir.path(), words({"new-company", "Next"}));
             EXPECT_EQ(writer2.status, 0) << writer2.err.toStdString();
             expectWholeAndStamped(home);
         }
@@ -261,9 +243,9 @@ TEST_F(KilledCommands, ImportOfACompanyAndItsProgram) {
 TEST_F(KilledCommands, ReaderRacingADeletion) {
     QTemporaryDir finished;
     const QString done = freshHome(finished);
-    ASSERT_EQ(runCliIn(finished, words({"delete", "-c", "C2"})).status, 0);
+    ASSERT_EQ(runCliAt(finished.path(), words({"delete", "-c", "C2"})).status, 0);
     const QByteArray before = runCliIn(*s_template, words({"list"})).out;
-    const QByteArray after = runCliIn(finished, words({"list"})).out;
+    const QByteArray after = runCliAt(finished.path(), words({"list"})).out;
     QRandomGenerator random(16);
     int printedBefore = 0, printedAfter = 0, refused = 0;
     for (int run = 0; run < kRuns; ++run) {
@@ -289,7 +271,7 @@ TEST_F(KilledCommands, ReaderRacingADeletion) {
         }
         delete writer;
         delete reader;
-        ASSERT_EQ(runCliIn(dir, words({"new-company", "Next"})).status, 0);
+        ASSERT_EQ(runCliAt(dir.path(), words({"new-company", "Next"})).status, 0);
         expectWholeAndStamped(home);
     }
     std::cout << "reader racing a deletion: " << kRuns << " runs, " << printedBefore
