@@ -129,9 +129,9 @@ void KeywordCounting::finish() {
     const std::vector<int> target = m_tally.targets();
     KeywordList& list = m_list;
     std::vector<int> entryOf(target.size(), -1);
-    // (The list is not meant to change while it counts; if it does, no entry is lost and
-    // none points outside the stores: a listed entry that has gone is counted as a word of
-    // the text, and one added since keeps its word.)
+    // (The list is not meant to change while it counts. Should it, no entry points outside
+    // the stores: a listed entry that has gone is counted as a word of the text, and one
+    // added since keeps its word.)
     for (std::size_t k = 0; k < m_listed.size(); ++k) {
         const int entry = m_listed[k];
         if (entry >= list.size())
