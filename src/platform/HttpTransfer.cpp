@@ -131,28 +131,40 @@ void decodePageInParts(QByteArrayView bytes, const QString& headerCharset,
         }
         e = {e.body, valid ? PageEncoding::Utf8 : PageEncoding::Win1252, QStringLiteral("utf-8")};
     }
-    QStringDecoder decoder =
-        e.kind == PageEncoding::MarkedUtf8
-            ? QStringDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless)
-            : decoderFor(e.charset);
+    if (e.kind == PageEncoding::MarkedUtf8) {
+        // After a byte-order mark the text is decoded as QString::fromUtf8 decodes it: by a
+        // decoder that keeps no state between calls, which drops a mark at the start of each
+        // call and cannot carry a character over. So it is decoded in one part.
+        take(decodePage(bytes, headerCharset));
+        return;
+    }
+    // The decoders left keep their state from part to part (or read a byte at a time), but a
+    // malformed sequence cut in two may still be replaced differently: a part ends after an
+    // ASCII byte where it can, else before a byte that starts a UTF-8 character.
+    QStringDecoder decoder = decoderFor(e.charset);
     std::vector<char16_t> text;
     for (qsizetype at = 0; at < e.body.size();) {
         qsizetype n = std::min(kPartBytes, e.body.size() - at);
         if (at + n < e.body.size()) {
-            // A part ends after an ASCII byte where it can, so that no character is cut in two
-            // (the decoders that keep state across parts would not mind).
+            const auto byte = [&](qsizetype i) {
+                return static_cast<unsigned char>(e.body[at + i]);
+            };
             qsizetype cut = n;
-            while (cut > 0 && static_cast<unsigned char>(e.body[at + cut - 1]) >= 0x80)
+            while (cut > 0 && byte(cut - 1) >= 0x80)
                 --cut;
-            if (cut > 0)
-                n = cut;
+            if (cut == 0) {
+                cut = n;
+                while (cut > n - 4 && (byte(cut) & 0xC0) == 0x80)
+                    --cut;
+            }
+            n = cut;
         }
-        const PageEncoding part{e.body.sliced(at, n), e.kind, e.charset};
+        const QByteArrayView part = e.body.sliced(at, n);
         text.resize(std::max(text.size(), std::size_t(decoder.requiredSpace(n + 16))));
-        const char16_t* end = part.kind == PageEncoding::Win1252
-                                  ? fromWin1252To(part.body.data(), n, text.data())
+        const char16_t* end = e.kind == PageEncoding::Win1252
+                                  ? fromWin1252To(part.data(), n, text.data())
                                   : reinterpret_cast<char16_t*>(decoder.appendToBuffer(
-                                        reinterpret_cast<QChar*>(text.data()), part.body));
+                                        reinterpret_cast<QChar*>(text.data()), part));
         take(QStringView(text.data(), end - text.data()));
         at += n;
     }

@@ -81,7 +81,8 @@ QString declaredCharset(QByteArrayView head);
 // Windows-1252; a byte order mark is dropped.
 QString decodePage(QByteArrayView bytes, const QString& headerCharset = {});
 // The same a part at a time, each part's text handed to take: the parts joined are
-// decodePage's text. For pages too big to hold twice.
+// decodePage's text. For pages too big to hold twice. (A page that starts with a byte order
+// mark comes in one part.)
 void decodePageInParts(QByteArrayView bytes, const QString& headerCharset,
                        const std::function<void(QStringView)>& take);
 
