@@ -20,8 +20,8 @@ public:
     std::optional<QString> inputBox(const QString&, const QString&, const QString&) override {
         return nextInput;
     }
-    std::optional<QString> openFile(const FileDialogSpec&) override { return fileAnswer(); }
-    std::optional<QString> saveFile(const FileDialogSpec&) override { return fileAnswer(); }
+    std::optional<QString> openFile(const FileDialogRequest&) override { return fileAnswer(); }
+    std::optional<QString> saveFile(const FileDialogRequest&) override { return fileAnswer(); }
     void message(const QString&, const QString& text) override { messages << text; }
     void beep() override {}
     QString clipboardText() override { return clipboard; }

@@ -99,28 +99,28 @@ QUrl PromptDialog::documentUrl(const QString& target) {
     return QUrl::fromUserInput(t);
 }
 
-std::optional<QString> PromptDialog::fileDialog(const FileDialogSpec& spec, bool save) {
+std::optional<QString> PromptDialog::fileDialog(const FileDialogRequest& request, bool save) {
     QFileDialog dialog(m_parent);
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    dialog.setNameFilters(nameFilters(spec.filter));
-    if (!spec.defaultExtension.isEmpty())
-        dialog.setDefaultSuffix(spec.defaultExtension);
-    if (!spec.initialFolder.isEmpty())
-        dialog.setDirectory(spec.initialFolder);
-    if (!spec.fileName.isEmpty())
-        dialog.selectFile(spec.fileName);
+    dialog.setNameFilters(nameFilters(request.filter));
+    if (!request.defaultExtension.isEmpty())
+        dialog.setDefaultSuffix(request.defaultExtension);
+    if (!request.initialFolder.isEmpty())
+        dialog.setDirectory(request.initialFolder);
+    if (!request.fileName.isEmpty())
+        dialog.selectFile(request.fileName);
     // A save asks before it replaces a file (the dialog's own question).
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
 }
 
-std::optional<QString> PromptDialog::openFile(const FileDialogSpec& dialog) {
+std::optional<QString> PromptDialog::openFile(const FileDialogRequest& dialog) {
     return fileDialog(dialog, false);
 }
 
-std::optional<QString> PromptDialog::saveFile(const FileDialogSpec& dialog) {
+std::optional<QString> PromptDialog::saveFile(const FileDialogRequest& dialog) {
     return fileDialog(dialog, true);
 }
 

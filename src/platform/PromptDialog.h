@@ -17,8 +17,8 @@ public:
     bool askYesNo(const QString& title, const QString& text, Icon icon) override;
     std::optional<QString> inputBox(const QString& prompt, const QString& title,
                                     const QString& defaultText) override;
-    std::optional<QString> openFile(const FileDialogSpec& dialog) override;
-    std::optional<QString> saveFile(const FileDialogSpec& dialog) override;
+    std::optional<QString> openFile(const FileDialogRequest& dialog) override;
+    std::optional<QString> saveFile(const FileDialogRequest& dialog) override;
     void message(const QString& title, const QString& text) override;
     void beep() override;
     QString clipboardText() override;
@@ -32,7 +32,7 @@ public:
     static QUrl documentUrl(const QString& target);
 
 private:
-    std::optional<QString> fileDialog(const FileDialogSpec& dialog, bool save);
+    std::optional<QString> fileDialog(const FileDialogRequest& dialog, bool save);
 
     QPointer<QWidget> m_parent;
 };

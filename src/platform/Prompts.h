@@ -6,7 +6,7 @@
 namespace brevaro {
 
 // The settings of an open or save file dialog.
-struct FileDialogSpec {
+struct FileDialogRequest {
     QString fileName;
     QString defaultExtension;
     QString initialFolder;
@@ -26,8 +26,8 @@ public:
     virtual std::optional<QString> inputBox(const QString& prompt, const QString& title,
                                             const QString& defaultText) = 0;
     // File dialogs; nothing when cancelled.
-    virtual std::optional<QString> openFile(const FileDialogSpec& dialog) = 0;
-    virtual std::optional<QString> saveFile(const FileDialogSpec& dialog) = 0;
+    virtual std::optional<QString> openFile(const FileDialogRequest& dialog) = 0;
+    virtual std::optional<QString> saveFile(const FileDialogRequest& dialog) = 0;
     virtual void message(const QString& title, const QString& text) = 0;
     virtual void beep() = 0;
     virtual QString clipboardText() = 0;

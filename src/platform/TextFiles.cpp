@@ -10,7 +10,7 @@ namespace brevaro {
 
 namespace {
 
-FileDialogSpec textFileDialog(const QString& initialFolder) {
+FileDialogRequest textFileDialog(const QString& initialFolder) {
     return {QString(), QStringLiteral("txt"), initialFolder,
             QStringLiteral("Text File(s) (*.txt)|*.txt|All File(s) (*.*)|*.*")};
 }

@@ -239,11 +239,11 @@ TEST(PadCheck, EveryRequiredFieldLeftEmptyIsNamed) {
         CompanyRecord c = company;
         ProgramRecord p = program;
         FixedRecord& record = v.side == RecordSide::Company ? static_cast<FixedRecord&>(c) : p;
-        const RecordField& spec = record.layout().fields[static_cast<std::size_t>(v.field)];
-        if (spec.isText()) {
+        const RecordField& field = record.layout().fields[static_cast<std::size_t>(v.field)];
+        if (field.isText()) {
             record.setText(v.field, QString(), v.entry);
-        } else if (spec.count > 1) { // the system and language lists
-            for (int i = 0; i < spec.count; ++i)
+        } else if (field.count > 1) { // the system and language lists
+            for (int i = 0; i < field.count; ++i)
                 record.setNumber(v.field, 0, i);
         } else {
             continue; // Has_Expire_Info is always Y or N

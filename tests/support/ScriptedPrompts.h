@@ -18,7 +18,7 @@ public:
     QStringList asked; // "title|text" of every yes/no question, in order
     QStringList messages;
     QStringList opened; // documents and addresses
-    QList<FileDialogSpec> dialogs;
+    QList<FileDialogRequest> dialogs;
     QString clipboard;
     int beeps = 0;
     int pumps = 0;
@@ -39,11 +39,11 @@ public:
         asked << title + u'|' + prompt;
         return next(inputs, prompt);
     }
-    std::optional<QString> openFile(const FileDialogSpec& dialog) override {
+    std::optional<QString> openFile(const FileDialogRequest& dialog) override {
         dialogs << dialog;
         return next(files, QStringLiteral("open dialog"));
     }
-    std::optional<QString> saveFile(const FileDialogSpec& dialog) override {
+    std::optional<QString> saveFile(const FileDialogRequest& dialog) override {
         dialogs << dialog;
         return next(files, QStringLiteral("save dialog"));
     }
