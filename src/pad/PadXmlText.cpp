@@ -142,7 +142,8 @@ std::vector<PadFinding> xmlTextProblems(const PadWrittenValue& v) {
                     firstTag = m.captured(0);
                 i += m.capturedLength() - 1;
             }
-        } else if (ch == u'>') {
+        } else if (ch == u'>' && i >= 2 && s[i - 1] == u']' && s[i - 2] == u']') {
+            // XML takes a ">" in text; only the sequence "]]>" is refused.
             kind = Greater;
         } else if (illegalControl(ch)) {
             kind = Control;
@@ -187,8 +188,8 @@ std::vector<PadFinding> xmlTextProblems(const PadWrittenValue& v) {
             break;
         }
         case Greater:
-            message = QStringLiteral("a \">\"%1 is written as typed; type it as \"&gt;\" so that "
-                                     "every PAD reader takes it")
+            message = QStringLiteral("\"]]>\"%1 breaks the XML of the PAD file; type its "
+                                     "\">\" as \"&gt;\"")
                           .arg(times);
             break;
         case Control:
