@@ -1,10 +1,10 @@
 #include "AppVersion.h"
-#include "mainwindow/EditingSession.h"
-#include "mainwindow/MainWindow.h"
-#include "platform/PromptDialog.h"
+#include "session/EditingSession.h"
 #include "store/AppHome.h"
 #include "store/HomeLock.h"
 #include "store/RecordStore.h"
+#include "window/MainWindow.h"
+#include "window/WidgetPrompts.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -17,8 +17,7 @@ namespace {
 
 void describe() {
     QCoreApplication::setApplicationName(QStringLiteral("brevaro"));
-    QCoreApplication::setApplicationVersion(
-        QStringLiteral("%1.%2.%3").arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision));
+    QCoreApplication::setApplicationVersion(versionText());
 }
 
 // The options of the window's command line.
@@ -76,7 +75,7 @@ int main(int argc, char* argv[]) {
         return 1;
     }
     RecordStore store(home);
-    PromptDialog prompts;
+    WidgetPrompts prompts;
     EditingSession session(store, prompts);
     MainWindow window(session);
     prompts.setParentWindow(&window);

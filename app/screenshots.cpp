@@ -1,12 +1,12 @@
 // Writes a picture of every tab of the main window, of the about box and of an empty home to
 // a folder, for the documentation: brevaro-screenshots OUTPUT_DIR PAD_FILE
-#include "mainwindow/AboutDialog.h"
-#include "mainwindow/ControlBindingView.h"
-#include "mainwindow/EditingSession.h"
-#include "mainwindow/MainWindow.h"
 #include "platform/SilentPrompts.h"
+#include "session/EditingSession.h"
 #include "store/AppHome.h"
 #include "store/RecordStore.h"
+#include "window/AboutDialog.h"
+#include "window/ControlBindingView.h"
+#include "window/MainWindow.h"
 
 #include <QAction>
 #include <QApplication>

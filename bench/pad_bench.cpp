@@ -1,9 +1,9 @@
 // Importing a large PAD file, scanning hostile text, and writing many PAD documents.
 #include "AutoPrompts.h"
-#include "mainwindow/EditingSession.h"
 #include "pad/PadImporter.h"
 #include "pad/PadText.h"
 #include "platform/Win1252.h"
+#include "session/EditingSession.h"
 
 #include <QFile>
 #include <QTemporaryDir>

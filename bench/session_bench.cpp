@@ -1,6 +1,6 @@
 // Start-up on a home with 10,000 companies, and selecting a company that has 1,000 programs.
 #include "AutoPrompts.h"
-#include "mainwindow/EditingSession.h"
+#include "session/EditingSession.h"
 
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>

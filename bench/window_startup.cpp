@@ -1,11 +1,11 @@
 // Start-up of the main window against a bare Qt window, each in a fresh process: the time from
 // main() to the window's first paint and the resident memory once idle, with an empty home and
 // with 10,000 companies. Run: build/bin/window_startup [runs]  (under xvfb-run or offscreen).
-#include "mainwindow/EditingSession.h"
-#include "mainwindow/MainWindow.h"
 #include "platform/SilentPrompts.h"
 #include "records/CompanyRecord.h"
+#include "session/EditingSession.h"
 #include "store/RecordStore.h"
+#include "window/MainWindow.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

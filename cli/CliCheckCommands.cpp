@@ -1,5 +1,6 @@
 #include "CliCommands.h"
 
+#include "controls/FieldLabels.h"
 #include "pad/PadCheck.h"
 
 #include <QJsonArray>
@@ -42,7 +43,7 @@ int checkCommand(CliContext& ctx, const QStringList& words) {
     EditingSession& s = ctx.session();
     const int c = ctx.company(args.required(QStringLiteral("-c")));
     ctx.select(c, ctx.program(ctx.companyId(c), args.required(QStringLiteral("-p"))));
-    const std::vector<PadFinding> findings = checkPad(s.company(), s.program());
+    const std::vector<PadFinding> findings = withFieldLabels(checkPad(s.company(), s.program()));
     if (args.has(QStringLiteral("--json"))) {
         ctx.print(QString::fromUtf8(QJsonDocument(findingsJson(findings)).toJson()));
     } else {
@@ -58,7 +59,7 @@ int checkCommand(CliContext& ctx, const QStringList& words) {
 }
 
 void refusePadWithErrors(const CompanyRecord& company, const ProgramRecord& program) {
-    const std::vector<PadFinding> findings = checkPad(company, program);
+    const std::vector<PadFinding> findings = withFieldLabels(checkPad(company, program));
     if (!hasErrors(findings))
         return;
     int errors = 0;

@@ -60,14 +60,26 @@ void CliContext::lockForWriting() {
     for (const QString& line : m_store.clearCrashLeftovers())
         warn(line);
     warnAboutDamage();
-    // From here on the command's changes are gathered and written together by finish().
+    // From here on the command's changes are gathered and written together by finish(), and
+    // what it prints waits for them: a pipeline never reads of a record that was not saved.
     m_store.beginBatch();
+    m_holdOutput = true;
 }
 
 void CliContext::finish() {
     if (!m_store.commitBatch())
         throw CliError{2,
                        QStringLiteral("the changes could not be saved: ") + m_store.errorString()};
+    m_out.write(m_heldOutput);
+    m_heldOutput.clear();
+    m_holdOutput = false;
+}
+
+void CliContext::printBytes(const QByteArray& bytes) {
+    if (m_holdOutput)
+        m_heldOutput += bytes;
+    else
+        m_out.write(bytes);
 }
 
 namespace {

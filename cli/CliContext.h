@@ -2,7 +2,7 @@
 
 #include "AutoPrompts.h"
 #include "CliArgs.h"
-#include "mainwindow/EditingSession.h"
+#include "session/EditingSession.h"
 #include "store/HomeLock.h"
 #include "store/RecordStore.h"
 
@@ -48,14 +48,15 @@ public:
     // Bad input when the session reported a problem through a message.
     void failOnMessages();
 
-    void print(const QString& text) { m_out.write(text.toUtf8()); }
+    // Output on stdout; a command that writes has it held until its changes are saved.
+    void print(const QString& text) { printBytes(text.toUtf8()); }
     // A warning line on stderr, not ending the command.
     void warn(const QString& text);
     // Reports problems of the record files once, as warnings: the company file and the program
     // files of every company, or of the company with that id only.
     void warnAboutDamage(int companyId = 0);
     void warnAboutProgramFile(int companyId);
-    void printBytes(const QByteArray& bytes) { m_out.write(bytes); }
+    void printBytes(const QByteArray& bytes);
 
 private:
     RecordStore m_store;
@@ -68,6 +69,8 @@ private:
     QIODevice& m_out;
     QIODevice& m_err;
     bool m_warned = false;
+    bool m_holdOutput = false;
+    QByteArray m_heldOutput;
 };
 
 } // namespace brevaro::cli

@@ -8,10 +8,6 @@ namespace brevaro::cli {
 
 namespace {
 
-QString versionText() {
-    return QStringLiteral("%1.%2.%3").arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision);
-}
-
 QString helpText() {
     QString text = QStringLiteral(
         "Usage: brevaro-cli [--home DIR] COMMAND ...\n"

@@ -21,7 +21,7 @@ install(FILES ${BREVARO_PACKAGING_DIR}/${BREVARO_APP_ID}.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${BREVARO_PACKAGING_DIR}/${BREVARO_APP_ID}.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-install(FILES ${PROJECT_SOURCE_DIR}/src/mainwindow/icons/brevaro.svg
+install(FILES ${PROJECT_SOURCE_DIR}/src/window/icons/brevaro.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps
         RENAME ${BREVARO_APP_ID}.svg)
 install(FILES ${BREVARO_PACKAGING_DIR}/brevaro-cli.bash-completion

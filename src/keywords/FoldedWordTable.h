@@ -55,7 +55,7 @@ public:
     }
 
     // Asks for the slot of hash to be brought into the cache, for a find soon after.
-    void prefetch(quint64 hash) const { __builtin_prefetch(&m_slots[slotOf(hash)]); }
+    void prefetch(quint64 hash) const { prefetchForRead(&m_slots[slotOf(hash)]); }
 
     // The number of word (hashed by hashOf), or -1; keyOf(number) is the word of a number.
     template <typename KeyOf> int find(QStringView word, quint64 hash, const KeyOf& keyOf) const {

@@ -6,6 +6,7 @@
 
 #include <QDate>
 #include <QXmlStreamReader>
+#include <algorithm>
 #include <cmath>
 
 namespace brevaro {
@@ -19,8 +20,6 @@ PadFinding finding(Severity severity, const PadWrittenValue& v, const QString& m
     PadFinding f;
     f.severity = severity;
     f.element = v.element;
-    f.label = v.label;
-    f.place = v.place;
     f.value = excerpt(v.value);
     f.message = message;
     f.side = v.side;
@@ -29,37 +28,46 @@ PadFinding finding(Severity severity, const PadWrittenValue& v, const QString& m
     return f;
 }
 
-// Elements whose 1.15 values come from a list of their own, which may differ from the
-// current rules' list: a value of the 1.15 list the rules no longer know is a note.
+// Fields whose 1.15 values come from a list of their own, which may differ from the current
+// rules' list: a value of the 1.15 list the rules no longer know is a note. Expire_Based_On
+// is the one such element that no single field holds.
 struct ListElement {
-    const char* element;
-    const char16_t* control; // the list of the window; nullptr: the expiry kinds
-    bool severalItems;
+    RecordSide side;
+    int field;
 };
 constexpr ListElement kListElements[] = {
-    {"Country", u"cboCountry", false},
-    {"Program_Cost_Other_Code", u"cboCostOtherCurrency", false},
-    {"Program_Type", u"cboType", false},
-    {"Program_Release_Status", u"cboStatus", false},
-    {"Program_Install_Support", u"cboInstallSupport", false},
-    {"Program_OS_Support", u"lstSupportedOS", true},
-    {"Program_Language", u"lstLanguages", true},
-    {"Expire_Based_On", nullptr, false},
-    {"Program_Specific_Category", u"cboSpecificCategory", false},
+    {RecordSide::Company, int(CompanyField::Country)},
+    {RecordSide::Program, int(PF::CostOtherCode)},
+    {RecordSide::Program, int(PF::ProgramType)},
+    {RecordSide::Program, int(PF::ReleaseStatus)},
+    {RecordSide::Program, int(PF::InstallSupport)},
+    {RecordSide::Program, int(PF::OSSupported)},
+    {RecordSide::Program, int(PF::LanguageSupported)},
+    {RecordSide::Program, int(PF::SpecificCategory)},
 };
 
-const ListElement* listElement(const QString& element) {
-    for (const auto& l : kListElements)
-        if (element == QLatin1String(l.element))
-            return &l;
-    return nullptr;
+bool isExpireBasedOn(const PadWrittenValue& v) {
+    return v.side == RecordSide::Program && v.field == int(PF::ExpireBasedOn);
 }
 
-QStringList oldList(const ListElement& l) {
-    if (!l.control)
+bool hasOldList(const PadWrittenValue& v) {
+    return isExpireBasedOn(v) || std::any_of(std::begin(kListElements), std::end(kListElements),
+                                             [&](const ListElement& l) {
+                                                 return l.side == v.side && l.field == v.field;
+                                             });
+}
+
+QStringList oldList(const PadWrittenValue& v) {
+    if (isExpireBasedOn(v))
         return {QStringLiteral("Days"), QStringLiteral("Uses"), QStringLiteral("Either/Or"),
                 QStringLiteral("Date")};
-    return valueList(l.control).items;
+    return valueListOf(v.side, v.field)->items;
+}
+
+// The systems and languages are written as one comma-separated list.
+bool severalItems(const PadWrittenValue& v) {
+    return v.side == RecordSide::Program &&
+           (v.field == int(PF::OSSupported) || v.field == int(PF::LanguageSupported));
 }
 
 QString quotedList(const QStringList& items) {
@@ -67,11 +75,11 @@ QString quotedList(const QStringList& items) {
 }
 
 void checkListValue(const PadWrittenValue& v, const QString& parsed, const PadFieldRule& rule,
-                    const ListElement& list, std::vector<PadFinding>& out) {
+                    std::vector<PadFinding>& out) {
     const QStringList items =
-        list.severalItems ? parsed.split(u',', Qt::SkipEmptyParts) : QStringList{parsed};
+        severalItems(v) ? parsed.split(u',', Qt::SkipEmptyParts) : QStringList{parsed};
     QStringList older, unknown;
-    const QStringList known = oldList(list);
+    const QStringList known = oldList(v);
     for (const QString& item : items) {
         if (rule.accepts(item))
             continue;
@@ -109,8 +117,8 @@ void checkRule(const PadWrittenValue& v, std::vector<PadFinding>& out) {
                                       rule->advice()));
         return;
     }
-    if (const ListElement* list = listElement(v.element))
-        return checkListValue(v, parsed, *rule, *list, out);
+    if (hasOldList(v))
+        return checkListValue(v, parsed, *rule, out);
     if (rule->accepts(parsed))
         return;
     // The published patterns are case-sensitive ("screen.GIF" fails).

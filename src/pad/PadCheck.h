@@ -16,8 +16,8 @@ struct PadFinding {
 
     Severity severity = Severity::Warning;
     QString element; // the PAD element, e.g. "Company_Name"; empty for the whole document
-    QString label;   // the field's label as the window shows it, e.g. "Name"
-    QString place;   // its tab, and frame or language, e.g. "Company Info, Author"
+    QString label;   // the field's label as the window shows it, e.g. "Name", filled by
+    QString place;   // withFieldLabels; its tab, and frame or language: "Company Info, Author"
     QString value;   // the offending value, cut short
     QString message; // what is wrong and how to fix it, in plain words
     RecordSide side = RecordSide::None;

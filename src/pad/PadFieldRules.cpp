@@ -1,6 +1,6 @@
 #include "pad/PadFieldRules.h"
 
-#include "PadFieldRulesData.h"
+#include <QFile>
 
 namespace brevaro {
 
@@ -80,7 +80,12 @@ bool PadFieldRule::accepts(const QString& value) const {
 // The table, parsed once; the advice of each rule is phrased here, once.
 std::vector<PadFieldRule> parsePadFieldRules() {
     std::vector<PadFieldRule> rules;
-    const QStringList lines = QString::fromUtf8(kPadFieldRulesTsv).split(u'\n');
+    // The published table, built into the program as a resource.
+    QFile file(QStringLiteral(":/pad/PadFieldRules.tsv"));
+    const bool opened = file.open(QIODevice::ReadOnly);
+    Q_ASSERT_X(opened, "padFieldRules", "the rules resource is missing");
+    const QStringList lines =
+        QString::fromUtf8(opened ? file.readAll() : QByteArray()).split(u'\n');
     for (qsizetype i = 1; i < lines.size(); ++i) { // the first line names the columns
         QString line = lines[i];
         if (line.endsWith(u'\r'))

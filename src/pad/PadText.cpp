@@ -122,10 +122,7 @@ QString padStandardDescription() {
 
 QString createdByComment() {
     return QStringLiteral("<!-- Created By ") + QLatin1String(kAppTitle) +
-           QStringLiteral(" version: %1.%2.%3 -->")
-               .arg(kVersionMajor)
-               .arg(kVersionMinor)
-               .arg(kVersionRevision);
+           QStringLiteral(" version: ") + versionText() + QStringLiteral(" -->");
 }
 
 QString availableAtComment() {

@@ -17,8 +17,6 @@ enum class When { Always, ExpireByCount, ExpireByDate, Description, ASP, TPA };
 struct Row {
     RecordSide side;
     int field;
-    const char* label;
-    const char* place;
     From from = From::Text;
     When when = When::Always;
 };
@@ -32,88 +30,81 @@ constexpr int p(PF f) {
     return static_cast<int>(f);
 }
 
-// Record field (its PAD element is the field table's) and the window's label, in the writer's
-// order.
+// Record fields (each one's PAD element is the field table's), in the writer's order.
 const Row kRows[] = {
-    {C, c(CF::CompanyName), "Name", "Company Info"},
-    {C, c(CF::Address1), "Address 1", "Company Info"},
-    {C, c(CF::Address2), "Address 2", "Company Info"},
-    {C, c(CF::CityTown), "City / Town", "Company Info"},
-    {C, c(CF::StateProvince), "State/Province", "Company Info"},
-    {C, c(CF::ZipPostalCode), "Zip", "Company Info"},
-    {C, c(CF::Country), "Country", "Company Info"},
-    {C, c(CF::CompanyWebSiteURL), "URL", "Company Info"},
-    {C, c(CF::AuthorFirstName), "First", "Company Info, Author"},
-    {C, c(CF::AuthorLastName), "Last", "Company Info, Author"},
-    {C, c(CF::AuthorEmail), "Email", "Company Info, Author"},
-    {C, c(CF::ContactFirstName), "First", "Company Info, Contact"},
-    {C, c(CF::ContactLastName), "Last", "Company Info, Contact"},
-    {C, c(CF::ContactEmail), "Email", "Company Info, Contact"},
-    {C, c(CF::SalesEmail), "Sales", "Company Info, Email Addresses"},
-    {C, c(CF::SupportEmail), "Support", "Company Info, Email Addresses"},
-    {C, c(CF::GeneralEmail), "General", "Company Info, Email Addresses"},
-    {C, c(CF::SalesPhone), "Sales", "Company Info, Phone Numbers"},
-    {C, c(CF::SupportPhone), "Support", "Company Info, Phone Numbers"},
-    {C, c(CF::GeneralPhone), "General", "Company Info, Phone Numbers"},
-    {C, c(CF::FaxPhone), "Fax", "Company Info, Phone Numbers"},
-    {P, p(PF::ProgramName), "Name", "Program Info"},
-    {P, p(PF::ProgramVersion), "Version", "Program Info"},
-    {P, p(PF::ReleaseMonth), "Release Date (month)", "Program Info"},
-    {P, p(PF::ReleaseDay), "Release Date (day)", "Program Info"},
-    {P, p(PF::ReleaseYear), "Release Date (year)", "Program Info"},
-    {P, p(PF::CostDollars), "Cost (US$)", "Program Info"},
-    {P, p(PF::CostOtherCode), "Cost (Other)", "Program Info"},
-    {P, p(PF::CostOther), "Cost (Other) amount", "Program Info"},
-    {P, p(PF::ProgramType), "Type", "Program Info"},
-    {P, p(PF::ReleaseStatus), "Status", "Program Info"},
-    {P, p(PF::InstallSupport), "Install Support", "Program Info"},
-    {P, p(PF::OSSupported), "Supported OS", "Program Info", From::Systems},
-    {P, p(PF::LanguageSupported), "Languages", "Program Info", From::Languages},
-    {P, p(PF::FilenameVersioned), "Versioned Filename", "Program Info, File Info"},
-    {P, p(PF::FilenamePrevious), "Previous Filename", "Program Info, File Info"},
-    {P, p(PF::FilenameGeneric), "Generic Filename", "Program Info, File Info"},
-    {P, p(PF::FilenameLong), "Long Filename", "Program Info, File Info"},
-    {P, p(PF::FileSizeBytes), "Size Bytes", "Program Info, File Info"},
-    {P, p(PF::FileSizeK), "Size KB", "Program Info, File Info"},
-    {P, p(PF::FileSizeMB), "Size MB", "Program Info, File Info"},
-    {P, p(PF::HasExpireInfo), "Has Expired Info", "Program Info", From::YesNo},
-    {P, p(PF::ExpireCount), "Expire After", "Program Info", From::Text, When::ExpireByCount},
-    {P, p(PF::ExpireBasedOn), "Days / Uses / Either/Or", "Program Info", From::ExpireBasedOn},
-    {P, p(PF::ExpireMonth), "Expire on (month)", "Program Info", From::Text, When::ExpireByDate},
-    {P, p(PF::ExpireDay), "Expire on (day)", "Program Info", From::Text, When::ExpireByDate},
-    {P, p(PF::ExpireYear), "Expire on (year)", "Program Info", From::Text, When::ExpireByDate},
-    {P, p(PF::ExpireOtherInfo), "Other Expire info", "Program Info"},
-    {P, p(PF::ChangeInfo), "Recent Changes", "Program Info"},
-    {P, p(PF::SpecificCategory), "Specific Category", "Program Info"},
-    {P, p(PF::CategoryClass), "Possible Categories", "Program Info"},
-    {P, p(PF::SystemRequirements), "System Requirements", "Program Info"},
-    {P, p(PF::Keywords), "Keywords:", "Descriptions", From::Text, When::Description},
-    {P, p(PF::CharDesc45), "45 Char:", "Descriptions", From::Text, When::Description},
-    {P, p(PF::CharDesc80), "80 Char:", "Descriptions", From::Text, When::Description},
-    {P, p(PF::CharDesc250), "250 Char:", "Descriptions", From::Text, When::Description},
-    {P, p(PF::CharDesc450), "450 Char:", "Descriptions", From::Text, When::Description},
-    {P, p(PF::CharDesc2000), "2000 Char:", "Descriptions", From::Text, When::Description},
-    {P, p(PF::ApplicationInfoURL), "Application Home", "Web Info, General URL Info"},
-    {P, p(PF::ApplicationOrderURL), "Application Order", "Web Info, General URL Info"},
-    {P, p(PF::ApplicationScreenshotURL), "Screenshot", "Web Info, General URL Info"},
-    {P, p(PF::ApplicationIconURL), "Program Icon", "Web Info, General URL Info"},
-    {P, p(PF::ApplicationXMLFileURL), "PAD XML File", "Web Info, General URL Info"},
-    {P, p(PF::PrimaryDownloadURL), "Primary Download", "Web Info, Download URL Info"},
-    {P, p(PF::SecondaryDownloadURL), "Second Download", "Web Info, Download URL Info"},
-    {P, p(PF::AdditionalDownloadURL1), "Third Download", "Web Info, Download URL Info"},
-    {P, p(PF::AdditionalDownloadURL2), "Fourth Download", "Web Info, Download URL Info"},
-    {P, p(PF::DistributionPermissions), "Distribution Agreements", "Permissions"},
-    {P, p(PF::EULA), "End User License Agreement", "Permissions"},
-    {P, p(PF::ASPMemberNumber), "ASP Member Number", "ASP Info", From::Text, When::ASP},
-    {P, p(PF::TPAMemberID), "TPA Member ID", "TPA Info", From::Text, When::TPA},
-    {P, p(PF::TrialLicenseType), "Trialware license type", "TPA Info", From::Text, When::TPA},
+    {C, c(CF::CompanyName)},
+    {C, c(CF::Address1)},
+    {C, c(CF::Address2)},
+    {C, c(CF::CityTown)},
+    {C, c(CF::StateProvince)},
+    {C, c(CF::ZipPostalCode)},
+    {C, c(CF::Country)},
+    {C, c(CF::CompanyWebSiteURL)},
+    {C, c(CF::AuthorFirstName)},
+    {C, c(CF::AuthorLastName)},
+    {C, c(CF::AuthorEmail)},
+    {C, c(CF::ContactFirstName)},
+    {C, c(CF::ContactLastName)},
+    {C, c(CF::ContactEmail)},
+    {C, c(CF::SalesEmail)},
+    {C, c(CF::SupportEmail)},
+    {C, c(CF::GeneralEmail)},
+    {C, c(CF::SalesPhone)},
+    {C, c(CF::SupportPhone)},
+    {C, c(CF::GeneralPhone)},
+    {C, c(CF::FaxPhone)},
+    {P, p(PF::ProgramName)},
+    {P, p(PF::ProgramVersion)},
+    {P, p(PF::ReleaseMonth)},
+    {P, p(PF::ReleaseDay)},
+    {P, p(PF::ReleaseYear)},
+    {P, p(PF::CostDollars)},
+    {P, p(PF::CostOtherCode)},
+    {P, p(PF::CostOther)},
+    {P, p(PF::ProgramType)},
+    {P, p(PF::ReleaseStatus)},
+    {P, p(PF::InstallSupport)},
+    {P, p(PF::OSSupported), From::Systems},
+    {P, p(PF::LanguageSupported), From::Languages},
+    {P, p(PF::FilenameVersioned)},
+    {P, p(PF::FilenamePrevious)},
+    {P, p(PF::FilenameGeneric)},
+    {P, p(PF::FilenameLong)},
+    {P, p(PF::FileSizeBytes)},
+    {P, p(PF::FileSizeK)},
+    {P, p(PF::FileSizeMB)},
+    {P, p(PF::HasExpireInfo), From::YesNo},
+    {P, p(PF::ExpireCount), From::Text, When::ExpireByCount},
+    {P, p(PF::ExpireBasedOn), From::ExpireBasedOn},
+    {P, p(PF::ExpireMonth), From::Text, When::ExpireByDate},
+    {P, p(PF::ExpireDay), From::Text, When::ExpireByDate},
+    {P, p(PF::ExpireYear), From::Text, When::ExpireByDate},
+    {P, p(PF::ExpireOtherInfo)},
+    {P, p(PF::ChangeInfo)},
+    {P, p(PF::SpecificCategory)},
+    {P, p(PF::CategoryClass)},
+    {P, p(PF::SystemRequirements)},
+    {P, p(PF::Keywords), From::Text, When::Description},
+    {P, p(PF::CharDesc45), From::Text, When::Description},
+    {P, p(PF::CharDesc80), From::Text, When::Description},
+    {P, p(PF::CharDesc250), From::Text, When::Description},
+    {P, p(PF::CharDesc450), From::Text, When::Description},
+    {P, p(PF::CharDesc2000), From::Text, When::Description},
+    {P, p(PF::ApplicationInfoURL)},
+    {P, p(PF::ApplicationOrderURL)},
+    {P, p(PF::ApplicationScreenshotURL)},
+    {P, p(PF::ApplicationIconURL)},
+    {P, p(PF::ApplicationXMLFileURL)},
+    {P, p(PF::PrimaryDownloadURL)},
+    {P, p(PF::SecondaryDownloadURL)},
+    {P, p(PF::AdditionalDownloadURL1)},
+    {P, p(PF::AdditionalDownloadURL2)},
+    {P, p(PF::DistributionPermissions)},
+    {P, p(PF::EULA)},
+    {P, p(PF::ASPMemberNumber), From::Text, When::ASP},
+    {P, p(PF::TPAMemberID), From::Text, When::TPA},
+    {P, p(PF::TrialLicenseType), From::Text, When::TPA},
 };
-
-// The captions of the description language tabs.
-const char* const kLanguageTabs[] = {"English",        "Spanish",           "French",
-                                     "German",         "Italian",           "Japanese",
-                                     "Chinese Simple", "Chinese Tradional", "Russian"};
-static_assert(std::size(kLanguageTabs) == ProgramRecord::kLanguages);
 
 bool written(When when, const ProgramRecord& pr) {
     const bool byDate = pr.number(PF::ExpireBasedOn, 3) != 0;
@@ -156,21 +147,20 @@ QString valueOf(const Row& row, const CompanyRecord& co, const ProgramRecord& pr
 std::vector<PadWrittenValue> padWrittenValues(const CompanyRecord& company,
                                               const ProgramRecord& program) {
     std::vector<PadWrittenValue> out;
-    auto add = [&](const Row& row, int entry, const QString& place) {
+    auto add = [&](const Row& row, int entry) {
         // Expire_Based_On is not written at all for a date without a month.
         if (row.from == From::ExpireBasedOn && program.number(PF::ExpireBasedOn, 3) != 0 &&
             program.text(PF::ExpireMonth).isEmpty())
             return;
         const RecordLayout& layout = row.side == C ? companyLayout() : programLayout();
         out.push_back({QLatin1String(layout.field(row.field).padElement),
-                       valueOf(row, company, program, entry), QString::fromUtf8(row.label), place,
-                       row.side, row.field, entry});
+                       valueOf(row, company, program, entry), row.side, row.field, entry});
     };
     bool descriptionsDone = false;
     for (const Row& row : kRows) {
         if (row.when != When::Description) {
             if (written(row.when, program))
-                add(row, 0, QString::fromUtf8(row.place));
+                add(row, 0);
             continue;
         }
         // At the first description row: every active language with all its rows.
@@ -180,11 +170,9 @@ std::vector<PadWrittenValue> padWrittenValues(const CompanyRecord& company,
         for (int language = 0; language < ProgramRecord::kLanguages; ++language) {
             if (program.number(PF::DescriptionActive, language) != 1)
                 continue;
-            const QString place = QString::fromUtf8(row.place) + QStringLiteral(", ") +
-                                  QString::fromUtf8(kLanguageTabs[language]);
             for (const Row& d : kRows)
                 if (d.when == When::Description)
-                    add(d, language, place);
+                    add(d, language);
         }
     }
     return out;

@@ -8,13 +8,10 @@
 
 namespace brevaro {
 
-// One value element of the PAD document as the writer writes it, with the field it comes from
-// and the field's label as the window shows it (place: the tab, and the frame or language).
+// One value element of the PAD document as the writer writes it, with the field it comes from.
 struct PadWrittenValue {
     QString element;
     QString value;
-    QString label;
-    QString place;
     RecordSide side = RecordSide::None;
     int field = -1; // index into the record layout of side
     int entry = 0;  // entry of an array field (the description language)

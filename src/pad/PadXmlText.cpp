@@ -205,8 +205,6 @@ std::vector<PadFinding> xmlTextProblems(const PadWrittenValue& v) {
         PadFinding f;
         f.severity = PadFinding::Severity::Error;
         f.element = v.element;
-        f.label = v.label;
-        f.place = v.place;
         f.value = excerpt(s, first[kind]);
         f.message = message;
         f.side = v.side;

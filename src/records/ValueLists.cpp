@@ -1,5 +1,8 @@
 #include "records/ValueLists.h"
 
+#include "records/CompanyRecord.h"
+#include "records/ProgramRecord.h"
+
 namespace brevaro {
 namespace {
 
@@ -204,31 +207,40 @@ QStringList numbered(int from, int to, bool twoDigits) {
     return items;
 }
 
+using CF = CompanyField;
+using PF = ProgramField;
+constexpr RecordSide kCompany = RecordSide::Company;
+constexpr RecordSide kProgram = RecordSide::Program;
+
 std::vector<ValueList> buildLists() {
     const QStringList months = numbered(1, 12, true);
     const QStringList days = numbered(1, 31, true);
     const QStringList years = numbered(2000, 2010, false);
     return {
-        {QStringLiteral("cboCountry"), false, countryNames(), 0},
-        {QStringLiteral("cboType"),
+        {kCompany, int(CF::Country), false, countryNames(), 0},
+        {kProgram,
+         int(PF::ProgramType),
          true,
          {QString(), QStringLiteral("Shareware"), QStringLiteral("Freeware"),
           QStringLiteral("Adware"), QStringLiteral("Demo"), QStringLiteral("Commercial"),
           QStringLiteral("Data Only")},
          0},
-        {QStringLiteral("cboStatus"),
+        {kProgram,
+         int(PF::ReleaseStatus),
          true,
          {QStringLiteral("Major Update"), QStringLiteral("Minor Update"),
           QStringLiteral("New Release"), QStringLiteral("Beta"), QStringLiteral("Alpha"),
           QStringLiteral("Media Only")},
          0},
-        {QStringLiteral("cboCostOtherCurrency"), true, QStringList{QString()} + kCurrencies, 0},
-        {QStringLiteral("cboInstallSupport"),
+        {kProgram, int(PF::CostOtherCode), true, QStringList{QString()} + kCurrencies, 0},
+        {kProgram,
+         int(PF::InstallSupport),
          true,
          {QStringLiteral("Install and Uninstall"), QStringLiteral("Install Only"),
           QStringLiteral("No Install Support"), QStringLiteral("Uninstall Only")},
          0},
-        {QStringLiteral("lstSupportedOS"),
+        {kProgram,
+         int(PF::OSSupported),
          true,
          {QStringLiteral("Win 3.1x"),    QStringLiteral("Win95"),
           QStringLiteral("Win98"),       QStringLiteral("WinME"),
@@ -244,14 +256,16 @@ std::vector<ValueList> buildLists() {
           QStringLiteral("Palm OS 3.1"), QStringLiteral("Palm OS 3.2"),
           QStringLiteral("Open VMS"),    QStringLiteral("Not Applicable")},
          ValueList::kNoSelection},
-        {QStringLiteral("lstLanguages"),
+        {kProgram,
+         int(PF::LanguageSupported),
          true,
          {QStringLiteral("English"), QStringLiteral("Spanish"), QStringLiteral("French"),
           QStringLiteral("German"), QStringLiteral("Italian"), QStringLiteral("Japanese"),
           QStringLiteral("ChineseSimplified"), QStringLiteral("ChineseTraditional"),
           QStringLiteral("Russian")},
          ValueList::kNoSelection},
-        {QStringLiteral("cboSpecificCategory"),
+        {kProgram,
+         int(PF::SpecificCategory),
          true,
          {QString(), QStringLiteral("Audio"), QStringLiteral("Business"),
           QStringLiteral("Business/Finance"), QStringLiteral("Desktop Enhancements"),
@@ -262,19 +276,20 @@ std::vector<ValueList> buildLists() {
           QStringLiteral("Software Development"), QStringLiteral("Utilities"),
           QStringLiteral("Web Authoring")},
          0},
-        {QStringLiteral("cboPossibleCategories"), true, QStringList{QString()} + kCategories,
+        {kProgram, int(PF::CategoryClass), true, QStringList{QString()} + kCategories,
          ValueList::kUnchanged},
-        {QStringLiteral("cboTPA_LicenseType"),
+        {kProgram,
+         int(PF::TrialLicenseType),
          true,
          {QString(), QStringLiteral("Trialware"), QStringLiteral("Time-limited trial"),
           QStringLiteral("Feature-limited trial")},
          0},
-        {QStringLiteral("cboReleaseMonth"), true, months, 0},
-        {QStringLiteral("cboExpireMonth"), true, months, 0},
-        {QStringLiteral("cboReleaseDay"), true, days, 0},
-        {QStringLiteral("cboExpireDay"), true, days, 0},
-        {QStringLiteral("cboReleaseYear"), true, years, 0},
-        {QStringLiteral("cboExpireYear"), true, years, 0},
+        {kProgram, int(PF::ReleaseMonth), true, months, 0},
+        {kProgram, int(PF::ExpireMonth), true, months, 0},
+        {kProgram, int(PF::ReleaseDay), true, days, 0},
+        {kProgram, int(PF::ExpireDay), true, days, 0},
+        {kProgram, int(PF::ReleaseYear), true, years, 0},
+        {kProgram, int(PF::ExpireYear), true, years, 0},
     };
 }
 
@@ -285,21 +300,20 @@ const std::vector<ValueList>& valueLists() {
     return lists;
 }
 
-const ValueList& valueList(QStringView control) {
+const ValueList* valueListOf(RecordSide side, int field) {
     for (const auto& list : valueLists())
-        if (list.control == control)
-            return list;
-    Q_ASSERT_X(false, "valueList", "no such list");
-    return valueLists().front();
+        if (list.side == side && list.field == field)
+            return &list;
+    return nullptr;
 }
 
 const QStringList& operatingSystemList() {
-    static const QStringList& items = valueList(u"lstSupportedOS").items;
+    static const QStringList& items = valueListOf(ProgramField::OSSupported)->items;
     return items;
 }
 
 const QStringList& languageList() {
-    static const QStringList& items = valueList(u"lstLanguages").items;
+    static const QStringList& items = valueListOf(ProgramField::LanguageSupported)->items;
     return items;
 }
 

@@ -20,10 +20,9 @@ AppHome AppHome::resolve(const QString& explicitHome, const QString& executableF
     if (!executableFolder.isEmpty() &&
         QFileInfo(executableFolder + QStringLiteral("/data")).isDir())
         return AppHome(executableFolder);
-    QString base = qEnvironmentVariable("XDG_DATA_HOME");
-    if (base.isEmpty())
-        base = QDir::homePath() + QStringLiteral("/.local/share");
-    return AppHome(base + QStringLiteral("/brevaro"));
+    // The user's data folder: $XDG_DATA_HOME, else ~/.local/share (on Linux).
+    return AppHome(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                   QStringLiteral("/brevaro"));
 }
 
 static QString join(const QString& folder, const QString& name) {

@@ -1,9 +1,6 @@
 #include "store/HomeLock.h"
 
-#include "platform/FileHelpers.h"
-
 #include <QDir>
-#include <QRegularExpression>
 #include <QSysInfo>
 #include <QThread>
 
@@ -12,28 +9,11 @@ namespace brevaro {
 HomeLock::HomeLock(const AppHome& home)
     : m_home(home) {}
 
-std::optional<HomeLock::Owner> HomeLock::parseOwner(const QByteArray& bytes) {
-    if (bytes.size() > kMaxLockFileBytes)
-        return std::nullopt;
-    const QList<QByteArray> lines = bytes.split('\n');
-    static const QRegularExpression number(QStringLiteral("^[1-9][0-9]{0,9}$"));
-    if (lines.size() < 3 || !number.match(QString::fromLatin1(lines[0])).hasMatch())
-        return std::nullopt;
+std::optional<HomeLock::Owner> HomeLock::readOwner() const {
     Owner owner;
-    owner.pid = lines[0].toLongLong();
-    owner.application = QString::fromUtf8(lines[1]);
-    owner.host = QString::fromUtf8(lines[2]);
-    if (owner.pid > std::numeric_limits<qint32>::max())
+    if (!m_lock->getLockInfo(&owner.pid, &owner.host, &owner.application))
         return std::nullopt;
     return owner;
-}
-
-std::optional<HomeLock::Owner> HomeLock::readOwner() const {
-    QByteArray bytes;
-    QString ignored;
-    if (!readRegularFile(m_home.lockFile(), kMaxLockFileBytes, &bytes, &ignored))
-        return std::nullopt;
-    return parseOwner(bytes);
 }
 
 bool HomeLock::acquire(QString* message) {

@@ -19,18 +19,13 @@ public:
     bool acquire(QString* message);
     bool isLocked() const { return m_lock && m_lock->isLocked(); }
 
-    // Who holds a lock, as its file says.
+private:
+    // Who holds the lock, as its file says; nothing when the file does not say so.
     struct Owner {
         qint64 pid = 0;
         QString application;
         QString host;
     };
-    // The owner written in a lock file's bytes: a process number, the program's name and the
-    // computer's name, one a line; nothing when the bytes do not say so.
-    static std::optional<Owner> parseOwner(const QByteArray& bytes);
-    static constexpr qint64 kMaxLockFileBytes = 4096;
-
-private:
     std::optional<Owner> readOwner() const;
 
     AppHome m_home;

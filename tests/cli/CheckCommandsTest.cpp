@@ -47,7 +47,7 @@ TEST(CliCheck, CleanRecordsPassWithNotesOnly) {
     const QStringList lines = QString::fromUtf8(r.out).split(u'\n', Qt::SkipEmptyParts);
     ASSERT_EQ(lines.size(), 1);
     EXPECT_TRUE(lines[0].startsWith(QStringLiteral("note\tProgram_Categories\tPossible Categories "
-                                                   "(Program Info) \"Text Editors\": ")))
+                                                   "(Program Info, Misc Info) \"Text Editors\": ")))
         << lines[0].toStdString();
     EXPECT_EQ(homeFiles(t), before) << "check writes nothing";
 }

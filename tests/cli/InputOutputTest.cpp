@@ -173,3 +173,15 @@ TEST(CliInput, SetChangesBothFilesOrNeither) {
     EXPECT_EQ(readBytes(t.home().companyFile()), company);
     EXPECT_FALSE(QFile::exists(t.home().saveIntentFile()));
 }
+
+// A new record's numbers are printed only once it is saved: a pipeline that reads them never
+// believes in a program that does not exist.
+TEST(CliInput, NewProgramPrintsNothingWhenItCannotBeSaved) {
+    TempHome t;
+    companyWithProgram(t);
+    QDir().mkpath(t.file(QStringLiteral("data/1.dta.pending")));
+    const CliResult r = runCliIn(t, words({"new-program", "-c", "1", "Second"}));
+    EXPECT_EQ(r.status, 2);
+    EXPECT_TRUE(r.out.isEmpty()) << r.out.toStdString();
+    EXPECT_EQ(runCliIn(t, words({"list"})).out, QByteArray("1\tAcme\n\t1\tWidget\t\n"));
+}

@@ -1,7 +1,7 @@
 // The banner data file: share/data.txt loaded and rotated through.
 #include "FuzzSupport.h"
-#include "mainwindow/BannerRotation.h"
 #include "platform/HttpTransfer.h"
+#include "session/BannerRotation.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
     using namespace brevaro;

@@ -2,7 +2,7 @@
 
 #include "ScriptedPrompts.h"
 #include "TestSupport.h"
-#include "mainwindow/EditingSession.h"
+#include "session/EditingSession.h"
 
 namespace brevaro::test {
 

@@ -2,11 +2,11 @@
 #include "TestSupport.h"
 #include "WidgetTestSupport.h"
 #include "keywords/KeywordSuggester.h"
-#include "keywords/KeywordsDialog.h"
 #include "platform/HttpTransfer.h"
 #include "submission/SiteCipher.h"
 #include "submission/SiteList.h"
-#include "submission/SiteListDialog.h"
+#include "window/KeywordsDialog.h"
+#include "window/SiteListDialog.h"
 
 #include <QAbstractButton>
 #include <QDir>

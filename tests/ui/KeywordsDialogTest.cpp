@@ -1,4 +1,4 @@
-#include "keywords/KeywordsDialog.h"
+#include "window/KeywordsDialog.h"
 #include "LocalHttpServer.h"
 #include "TestSupport.h"
 #include "WidgetTestSupport.h"

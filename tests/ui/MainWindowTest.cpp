@@ -1,11 +1,11 @@
-#include "mainwindow/MainWindow.h"
+#include "window/MainWindow.h"
 #include "ScriptedPrompts.h"
 #include "TestSupport.h"
-#include "mainwindow/BannerRotation.h"
-#include "mainwindow/BannerStripWidget.h"
-#include "mainwindow/ControlBindingView.h"
-#include "mainwindow/EditingSession.h"
-#include "mainwindow/LinkLabelWidget.h"
+#include "session/BannerRotation.h"
+#include "session/EditingSession.h"
+#include "window/BannerStripWidget.h"
+#include "window/ControlBindingView.h"
+#include "window/LinkLabelWidget.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -1,10 +1,10 @@
-#include "submission/SiteListDialog.h"
+#include "window/SiteListDialog.h"
 #include "LocalHttpServer.h"
 #include "ScriptedPrompts.h"
 #include "TestSupport.h"
 #include "WidgetTestSupport.h"
-#include "mainwindow/BannerRotation.h"
 #include "platform/HttpTransfer.h"
+#include "session/BannerRotation.h"
 #include "submission/SiteCipher.h"
 #include "submission/SiteList.h"
 

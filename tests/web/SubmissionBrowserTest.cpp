@@ -1,4 +1,4 @@
-#include "submission/SubmissionBrowser.h"
+#include "plugin/SubmissionBrowser.h"
 #include "FullRecords.h"
 #include "LocalHttpServer.h"
 #include "ScriptedPrompts.h"

@@ -2,7 +2,7 @@
 #include "LocalHttpServer.h"
 #include "ScriptedPrompts.h"
 #include "TestSupport.h"
-#include "submission/SubmissionLoaderWidget.h"
+#include "window/SubmissionPluginLoader.h"
 
 #include <QApplication>
 #include <QDir>

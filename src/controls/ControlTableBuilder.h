@@ -1,0 +1,94 @@
+#pragma once
+
+#include "controls/ControlTable.h"
+#include "records/CompanyRecord.h"
+#include "records/ProgramRecord.h"
+
+namespace brevaro::controltable {
+
+using K = ControlKind;
+using W = WidgetType;
+using A = ControlAction;
+using CF = CompanyField;
+using PF = ProgramField;
+
+// Builds the table row by row; each call of add starts a row and the chained setters fill
+// it. A row that holds a record field must say explicitly whether an edit marks a record.
+class TableBuilder {
+public:
+    TableBuilder& add(const char* name, K kind, int index = -1);
+    TableBuilder& company(CF f, int limit = 0) {
+        return field(RecordSide::Company, int(f), 0, limit);
+    }
+    TableBuilder& program(PF f, int entry = 0, int limit = 0) {
+        return field(RecordSide::Program, int(f), entry, limit);
+    }
+    TableBuilder& mark(RecordSide side, unsigned on) {
+        row().marks = side;
+        row().markOn = on;
+        m_markSet.back() = true;
+        return *this;
+    }
+    TableBuilder& noMark() { return mark(RecordSide::None, kMarkNever); }
+    TableBuilder& itemHint() {
+        row().hint = FocusHint::ItemOf;
+        return *this;
+    }
+    TableBuilder& hint(const char* text) {
+        row().hint = FocusHint::Text;
+        row().hintText = QString::fromUtf8(text);
+        return *this;
+    }
+    TableBuilder& noHint() {
+        row().hint = FocusHint::None;
+        return *this;
+    }
+    TableBuilder& keepsItem() {
+        row().keepsItem = true;
+        return *this;
+    }
+    TableBuilder& tip(const QString& text) {
+        row().toolTip = text;
+        return *this;
+    }
+    TableBuilder& tip(const char* text) { return tip(QString::fromUtf8(text)); }
+    // The text shown with the control: its own caption for buttons, check boxes, options,
+    // labels and menu items; the label beside it for a field that shows a value.
+    TableBuilder& caption(const char* text);
+    TableBuilder& widget(W type) {
+        row().widget = type;
+        return *this;
+    }
+    TableBuilder& action(A a, int arg = 0, const char* target = nullptr,
+                         const char* source = nullptr) {
+        row().action = a;
+        row().arg = arg;
+        row().target = target ? QString::fromUtf8(target) : QString();
+        row().source = source ? QString::fromUtf8(source) : QString();
+        return *this;
+    }
+    // Every row: places it, then checks that each field row said what it marks.
+    std::vector<ControlRow> take();
+
+private:
+    TableBuilder& field(RecordSide side, int f, int entry, int limit);
+    ControlRow& row() { return m_rows.back(); }
+    std::vector<ControlRow> m_rows;
+    std::vector<bool> m_markSet;
+};
+
+inline constexpr unsigned kBoth = kMarkOnChange | kMarkOnClick;
+inline constexpr auto P = RecordSide::Program;
+
+// The rows of the record fields, in the order every record operation visits them.
+void companyControls(TableBuilder& t);
+void programInfoControls(TableBuilder& t);
+void descriptionControls(TableBuilder& t);
+void webAndAssociationControls(TableBuilder& t);
+// Buttons, menus, links, frames and labels.
+void commandControls(TableBuilder& t);
+void frameAndLabelControls(TableBuilder& t);
+// Where each control sits in the window.
+void placeControls(std::vector<ControlRow>& rows);
+
+} // namespace brevaro::controltable

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "session/SessionState.h"
+
+#include <QString>
+
+namespace brevaro {
+
+class EditingSession;
+
+// The company file as the window uses it: reading, listing, creating, saving, finding and
+// deleting companies.
+class CompanyCommands {
+public:
+    CompanyCommands(EditingSession& session, SessionState& state);
+
+    int GetCompanyCount() const;
+    void ReadCurrentCompany();
+    // Writes the current record at its number; false, after telling the user, on failure.
+    bool WriteCurrentCompany();
+    void LoadCompanyList();
+    void ShowCurrentCompany();
+    void ShowCompanyPosition();
+    void OpenCompanies();
+    void NewCompany();
+    void CreateCompany(const QString& name);
+    // False when the record could not be written: it stays modified.
+    bool SaveCompany();
+    bool FindCompany(const QString& name);
+    void DeleteCompany();
+
+private:
+    EditingSession& m_s;
+    SessionState& m_state;
+};
+
+} // namespace brevaro

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "session/SessionState.h"
+
+#include <QString>
+
+namespace brevaro {
+
+class EditingSession;
+
+// The current company's program file as the window uses it.
+class ProgramCommands {
+public:
+    ProgramCommands(EditingSession& session, SessionState& state);
+
+    QString ProgramFileName();
+    int GetProgramCount();
+    void ReadCurrentProgram();
+    // Writes the current record at its number; false, after telling the user, on failure.
+    bool WriteCurrentProgram();
+    void LoadProgramList();
+    void ShowSelectedProgram();
+    void ShowProgramPosition();
+    void OpenPrograms();
+    void NewProgram();
+    void CreateProgram(const QString& name);
+    // False when the record could not be written: it stays modified.
+    bool SaveProgram();
+    void DeleteProgram();
+
+private:
+    int companyId() const;
+
+    EditingSession& m_s;
+    SessionState& m_state;
+};
+
+} // namespace brevaro

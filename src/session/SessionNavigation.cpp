@@ -1,0 +1,166 @@
+#include "session/SessionNavigation.h"
+
+#include "AppVersion.h"
+#include "platform/StringHelpers.h"
+#include "session/EditingSession.h"
+
+namespace brevaro {
+
+namespace {
+const QString kModified = QStringLiteral(" (MODIFIED) ");
+}
+
+SessionNavigation::SessionNavigation(EditingSession& session, SessionState& state)
+    : m_s(session)
+    , m_state(state) {}
+
+bool SessionNavigation::isCompanyDirty() {
+    if (!m_state.CompanyDirty || m_state.ImportInProgress)
+        return true;
+    const QString name = m_s.company().trimText(CompanyField::CompanyName);
+    if (!m_s.prompts().askYesNo(name + QStringLiteral(" not saved"),
+                                QStringLiteral("Do you want to save ") + name + u'?',
+                                Prompts::Icon::Question))
+        return true;
+    return m_s.companies().SaveCompany();
+}
+
+bool SessionNavigation::isProgramDirty() {
+    if (!m_state.ProgramDirty || m_state.ImportInProgress)
+        return true;
+    const QString name = m_s.program().trimText(ProgramField::ProgramName);
+    if (!m_s.prompts().askYesNo(name + QStringLiteral(" Company not saved"),
+                                QStringLiteral("Do you want to save ") + name + u'?',
+                                Prompts::Icon::Question))
+        return true;
+    m_s.transfer().ScreenToProgram();
+    if (!m_s.programs().WriteCurrentProgram())
+        return false;
+    SetProgramClean();
+    return true;
+}
+
+// A modified record locks its selector, so no other record can be chosen until it is saved.
+void SessionNavigation::setModified(QStringView selector, bool& flag, bool modified) {
+    m_s.screen().setEnabled(m_s.id(selector), !modified);
+    flag = modified;
+    UpdateCaption();
+}
+
+void SessionNavigation::SetCompanyDirty() {
+    setModified(u"cboCompanyName", m_state.CompanyDirty, true);
+}
+void SessionNavigation::SetCompanyClean() {
+    setModified(u"cboCompanyName", m_state.CompanyDirty, false);
+}
+void SessionNavigation::SetProgramDirty() {
+    setModified(u"cboProgramName", m_state.ProgramDirty, true);
+}
+void SessionNavigation::SetProgramClean() {
+    setModified(u"cboProgramName", m_state.ProgramDirty, false);
+}
+
+void SessionNavigation::UpdateCaption() {
+    QString extra;
+    UpdateCaption(extra);
+}
+
+void SessionNavigation::UpdateCaption(QString& extra) {
+    if (!trimBlanks(extra).isEmpty())
+        extra = QStringLiteral(" > (") + extra + u')';
+    const QString companyMarker = m_state.CompanyDirty ? kModified : QString();
+    const QString programMarker = m_state.ProgramDirty ? kModified : QString();
+    ProgramRecord& p = m_s.program();
+    const QString caption =
+        QLatin1String(kAppTitle) + u' ' + m_s.appVersionText() + QStringLiteral(" - [") +
+        m_s.company().trimText(CompanyField::CompanyName) + companyMarker + QStringLiteral(" - ") +
+        p.trimText(ProgramField::ProgramName) + u' ' + p.trimText(ProgramField::ProgramVersion) +
+        programMarker + QStringLiteral("] ") + extra;
+    m_s.screen().setCaption(m_s.id(u"frmStart"), caption);
+}
+
+void SessionNavigation::SimpleText(const QString& text) {
+    m_s.screen().setCaption(m_s.id(u"StatusBar1"), text);
+}
+
+void SessionNavigation::LoadCompanyProgramOnly() {
+    ProgramCommands& programs = m_s.programs();
+    m_s.screen().setItems(m_s.id(u"cboProgramName"), {});
+    m_s.transfer().ClearProgramScreen();
+    m_s.transfer().ClearProgramRecord();
+    programs.OpenPrograms();
+    programs.ReadCurrentProgram();
+    programs.LoadProgramList();
+    m_s.transfer().ProgramToScreen();
+    programs.ShowProgramPosition();
+}
+
+void SessionNavigation::companySelected() {
+    ScreenModel& screen = m_s.screen();
+    const int selector = m_s.id(u"cboCompanyName");
+    const int index = screen.at(selector).listIndex;
+    if (index < 0)
+        return;
+    // The program on screen belongs to the company being left: offer to save it first. When
+    // a save fails, the records stay on screen and the selector goes back to them.
+    if (!isCompanyDirty() || !isProgramDirty()) {
+        screen.restoreListIndex(selector, m_state.CurrentCompanyNo - 1);
+        return;
+    }
+    m_state.CurrentCompanyNo = index + 1;
+    m_s.companies().ShowCurrentCompany();
+    m_s.companies().ShowCompanyPosition();
+    m_s.programs().ShowProgramPosition();
+    screen.setCaption(m_s.id(u"lblCompanyID"),
+                      QString::number(m_s.company().number(CompanyField::CompanyID)));
+    LoadCompanyProgramOnly();
+    if (!m_state.NewCompanyPending)
+        SetProgramClean();
+    screen.setCaption(m_s.id(u"lblProgramID"),
+                      QString::number(m_s.program().number(ProgramField::CompanyID)));
+    SetCompanyClean();
+    SetProgramClean();
+    UpdateCaption();
+    if (!screen.at(u"cboProgramName").items.isEmpty())
+        screen.setListIndex(m_s.id(u"cboProgramName"), 0);
+    m_state.CurrentProgramNo = screen.at(u"cboProgramName").listIndex + 1;
+    m_s.programs().ShowProgramPosition();
+}
+
+void SessionNavigation::programSelected() {
+    ScreenModel& screen = m_s.screen();
+    const int selector = m_s.id(u"cboProgramName");
+    const int index = screen.at(selector).listIndex;
+    if (index < 0)
+        return;
+    if (!isProgramDirty()) {
+        screen.restoreListIndex(selector, m_state.CurrentProgramNo - 1);
+        return;
+    }
+    m_state.CurrentProgramNo = index + 1;
+    m_s.programs().ShowSelectedProgram();
+    screen.setCaption(m_s.id(u"lblProgramID"),
+                      QString::number(m_s.program().number(ProgramField::CompanyID)));
+    SetProgramClean();
+}
+
+void SessionNavigation::tabSelected() {
+    ScreenModel& screen = m_s.screen();
+    const int tabs = m_s.id(u"SSTab1");
+    if (m_state.NewCompanyPending) {
+        SimpleText(QStringLiteral("Please SAVE your Company Data before you try to add products!"));
+        if (screen.at(tabs).listIndex != 0)
+            screen.setListIndex(tabs, 0);
+        return;
+    }
+    const int tab = screen.at(tabs).listIndex;
+    SimpleText(mainTabCaptions().value(tab));
+    // Which of buttons 0..5 are enabled, and the menu items 0..2, 4..6 that mirror them.
+    for (int b = 0; b < 6; ++b) {
+        const bool on = tab == 0 ? b <= 2 : tab == 1 ? b >= 3 : b == 4;
+        screen.setEnabled(m_s.id(u"cmdButton", b), on);
+        screen.setEnabled(m_s.id(u"mnuPAD", b < 3 ? b : b + 1), on);
+    }
+}
+
+} // namespace brevaro

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "session/SessionState.h"
+
+#include <QString>
+
+namespace brevaro {
+
+class EditingSession;
+
+// Choosing companies, programs and tabs, and the modified state: the selectors are locked
+// while a record is modified, the caption says so, and leaving a modified record asks first.
+class SessionNavigation {
+public:
+    SessionNavigation(EditingSession& session, SessionState& state);
+
+    // Offer to save a modified record. True when the caller may go on: nothing was modified,
+    // the user said No, or the save succeeded; false when the save the user asked for failed.
+    bool isCompanyDirty();
+    bool isProgramDirty();
+    void SetCompanyDirty();
+    void SetCompanyClean();
+    void SetProgramDirty();
+    void SetProgramClean();
+    void UpdateCaption(QString& extra);
+    void UpdateCaption();
+    void SimpleText(const QString& text);
+    void LoadCompanyProgramOnly();
+
+    // The selection handlers of the two selectors and the main tabs.
+    void companySelected();
+    void programSelected();
+    void tabSelected();
+
+private:
+    void setModified(QStringView selector, bool& flag, bool modified);
+
+    EditingSession& m_s;
+    SessionState& m_state;
+};
+
+} // namespace brevaro

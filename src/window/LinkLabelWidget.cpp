@@ -1,0 +1,73 @@
+#include "window/LinkLabelWidget.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace brevaro {
+
+LinkLabelWidget::LinkLabelWidget(const QString& text, QWidget* parent)
+    : QLabel(text, parent) {
+    setCursor(Qt::PointingHandCursor);
+    // Reachable from the keyboard: Tab to it, Space or Enter opens it.
+    setFocusPolicy(Qt::StrongFocus);
+    setHovered(false);
+}
+
+void LinkLabelWidget::setPointSize(int points) {
+    QFont f = font();
+    f.setPointSize(points);
+    setFont(f);
+}
+
+void LinkLabelWidget::setHovered(bool hovered) {
+    m_hovered = hovered;
+    QFont f = font();
+    f.setUnderline(hovered);
+    setFont(f);
+    QPalette p = palette();
+    // Dark blue under the mouse; otherwise the desktop's own text colour, so the label reads
+    // well in light and dark palettes.
+    p.setColor(QPalette::WindowText, hovered ? QColor(0x00, 0x00, 0xC0)
+                                     : parentWidget()
+                                         ? parentWidget()->palette().color(QPalette::ButtonText)
+                                         : QPalette().color(QPalette::ButtonText));
+    setPalette(p);
+}
+
+void LinkLabelWidget::enterEvent(QEnterEvent* event) {
+    setHovered(true);
+    QLabel::enterEvent(event);
+}
+
+void LinkLabelWidget::leaveEvent(QEvent* event) {
+    setHovered(false);
+    QLabel::leaveEvent(event);
+}
+
+void LinkLabelWidget::focusInEvent(QFocusEvent* event) {
+    // The keyboard's focus looks like the mouse over it.
+    setHovered(true);
+    QLabel::focusInEvent(event);
+}
+
+void LinkLabelWidget::focusOutEvent(QFocusEvent* event) {
+    setHovered(false);
+    QLabel::focusOutEvent(event);
+}
+
+void LinkLabelWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        emit clicked();
+    QLabel::mouseReleaseEvent(event);
+}
+
+void LinkLabelWidget::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
+        event->key() == Qt::Key_Enter) {
+        emit clicked();
+        return;
+    }
+    QLabel::keyPressEvent(event);
+}
+
+} // namespace brevaro

@@ -1,0 +1,230 @@
+#include "window/MainWindow.h"
+
+#include "controls/Mnemonics.h"
+#include "keywords/KeywordSuggester.h"
+#include "platform/HttpTransfer.h"
+#include "platform/StringHelpers.h"
+#include "session/BannerRotation.h"
+#include "session/EditingSession.h"
+#include "window/AboutDialog.h"
+#include "window/AssociationTabWidget.h"
+#include "window/BannerStripWidget.h"
+#include "window/ButtonBarWidget.h"
+#include "window/CompanyTabWidget.h"
+#include "window/ControlBindingView.h"
+#include "window/DescriptionsTabWidget.h"
+#include "window/KeywordsDialog.h"
+#include "window/LinkLabelWidget.h"
+#include "window/PadCheckDialog.h"
+#include "window/PermissionsTabWidget.h"
+#include "window/ProgramTabWidget.h"
+#include "window/SubmissionPluginLoader.h"
+#include "window/WebInfoTabWidget.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace brevaro {
+
+MainWindow::MainWindow(EditingSession& session, QWidget* parent)
+    : QMainWindow(parent)
+    , m_session(session)
+    , m_http(std::make_unique<HttpTransfer>()) {
+    setObjectName(QStringLiteral("frmStart"));
+    setWindowIcon(QIcon(QStringLiteral(":/icons/brevaro.svg")));
+    m_view = new ControlBindingView(session, this);
+    m_banners = new BannerRotation(session.store().home(), session.prompts(), *m_http, this);
+
+    // Menu bar letters first, so the buttons do not take them.
+    QString used = QStringLiteral("fth");
+    buildMenus();
+    auto* central = new QWidget;
+    auto* column = new QVBoxLayout(central);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    m_strip = new BannerStripWidget(*m_view, *m_banners);
+    column->addWidget(m_strip);
+    auto* middle = new QHBoxLayout;
+    middle->addWidget(new ButtonBarWidget(*m_view, used));
+    middle->addWidget(buildTabs(), 1);
+    column->addLayout(middle, 1);
+    column->addWidget(buildCopyright());
+    setCentralWidget(central);
+    setStatusBar(qobject_cast<QStatusBar*>(m_view->widget(u"StatusBar1")));
+    setTabOrder();
+    setCommandHandlers();
+    connect(&session, &EditingSession::closeRequested, this, [this] {
+        m_shutDown = true;
+        close();
+    });
+    m_view->repaintAll();
+    // 11000 by 8150 twips.
+    resize(733, 543);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::buildMenus() {
+    QHash<int, QMenu*> menus;
+    for (int id : m_view->ids()) {
+        const ControlRow& r = m_view->row(id);
+        if (r.widget == WidgetType::MenuTitle) {
+            auto* menu = qobject_cast<QMenu*>(m_view->widget(id));
+            menu->setTitle(u'&' + r.caption);
+            menu->setParent(menuBar(), menu->windowFlags());
+            menuBar()->addMenu(menu);
+            menus.insert(r.placeIndex, menu);
+        }
+    }
+    QHash<int, QString> usedIn;
+    for (int id : m_view->ids()) {
+        const ControlRow& r = m_view->row(id);
+        QAction* a = m_view->action(id);
+        if (!a || r.place != Place::Menu || !menus.contains(r.placeIndex))
+            continue;
+        if (!a->isSeparator())
+            a->setText(withMnemonic(r.caption, usedIn[r.placeIndex]));
+        menus[r.placeIndex]->addAction(a);
+    }
+}
+
+QWidget* MainWindow::buildTabs() {
+    auto* tabs = qobject_cast<QTabWidget*>(m_view->widget(u"SSTab1"));
+    QList<QWidget*> pages = {new CompanyTabWidget(*m_view), new ProgramTabWidget(*m_view),
+                             new DescriptionsTabWidget(*m_view), new WebInfoTabWidget(*m_view),
+                             new PermissionsTabWidget(*m_view)};
+    for (int extension = 0; extension < 4; ++extension)
+        pages << new AssociationTabWidget(*m_view, extension);
+    // Adding pages is not the user choosing a tab.
+    const QSignalBlocker quiet(tabs);
+    for (int i = 0; i < pages.size(); ++i) {
+        // A page taller than the window scrolls instead of being squeezed.
+        auto* scroll = new QScrollArea;
+        scroll->setWidgetResizable(true);
+        scroll->setFrameShape(QFrame::NoFrame);
+        scroll->setWidget(pages[i]);
+        tabs->addTab(scroll, mainTabCaptions().value(i));
+    }
+    return tabs;
+}
+
+QWidget* MainWindow::buildCopyright() {
+    auto* frame = qobject_cast<QGroupBox*>(m_view->widget(u"frmCopyright"));
+    frame->setFlat(true);
+    auto* row = new QHBoxLayout(frame);
+    row->setContentsMargins(6, 2, 6, 2);
+    auto* line = qobject_cast<LinkLabelWidget*>(m_view->widget(u"lblCopyright"));
+    line->setPointSize(8);
+    row->addStretch();
+    row->addWidget(line);
+    return frame;
+}
+
+// Tab follows the order in which the record operations visit the fields, each field
+// followed by the buttons beside it.
+void MainWindow::setTabOrder() {
+    QWidget* previous = nullptr;
+    auto chain = [&](QWidget* w) {
+        if (previous)
+            QWidget::setTabOrder(previous, w);
+        previous = w;
+    };
+    for (int id : m_view->ids()) {
+        const ControlRow& r = m_view->row(id);
+        QWidget* w = m_view->widget(id);
+        if (r.side == RecordSide::None || !w || r.place == Place::Hidden)
+            continue;
+        chain(w);
+        if (r.index > 0)
+            continue;
+        for (int other : m_view->ids()) {
+            const ControlRow& o = m_view->row(other);
+            if (o.beside == r.name && o.action != ControlAction::None && m_view->widget(other))
+                chain(m_view->widget(other));
+        }
+    }
+}
+
+void MainWindow::setCommandHandlers() {
+    m_session.setCommandHandler(ControlAction::About, [this] {
+        AboutDialog about(m_session.prompts(), this);
+        about.exec();
+    });
+    m_session.setCommandHandler(ControlAction::Keywords, [this] {
+        // Suggestions from the program's home page, for the language shown.
+        HttpTransfer http;
+        KeywordSuggester suggester(trimBlanks(m_session.text(u"cboProgramName")),
+                                   m_session.text(u"txtApplicationHomeURL"), http);
+        KeywordsDialog dialog(suggester, this);
+        const bool accepted = dialog.exec() == QDialog::Accepted;
+        m_session.screen().setVisible(m_session.id(u"picKeywordsGenerator"), true);
+        if (!accepted)
+            return;
+        if (const auto keywords = suggester.accept())
+            m_session.assistance().applyKeywords(*keywords);
+    });
+    m_session.setCommandHandler(ControlAction::Submit, [this] {
+        QString error;
+        const bool opened = openSubmissionBrowser(this, m_session.company(), m_session.program(),
+                                                  m_session.store().home().root(),
+                                                  m_session.prompts(), &error, [this] {
+                                                      // A fresh site list brings the banner data
+                                                      // along when it is two days old.
+                                                      if (m_banners->TimeToDownloadData(2))
+                                                          m_banners->BannerDataDownload();
+                                                  });
+        if (!opened)
+            m_session.navigation().SimpleText(error);
+    });
+    m_session.setCommandHandler(ControlAction::CheckPAD, [this] {
+        // One findings window, checked again each time it is asked for.
+        if (!m_check) {
+            m_check = new PadCheckDialog(m_session, this);
+            m_check->setAttribute(Qt::WA_DeleteOnClose);
+        } else {
+            m_check->refresh();
+        }
+        m_check->show();
+        m_check->raise();
+        m_check->activateWindow();
+    });
+    m_session.setCommandHandler(ControlAction::NextBanner,
+                                [this] { m_banners->Banner_Timer_Timer(); });
+    m_session.setCommandHandler(ControlAction::ClickBanner, [this] { m_banners->clickBanner(); });
+    m_session.setCommandHandler(ControlAction::DownloadBanners,
+                                [this] { m_banners->BannerDataDownload(); });
+}
+
+void MainWindow::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    if (m_shown)
+        return;
+    m_shown = true;
+    // The rotation starts once the window is on screen, so it never delays start-up.
+    QTimer::singleShot(0, m_banners, [this] { m_banners->LoadLocalBannerList(); });
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!m_shutDown && !m_session.Shutdown()) {
+        // A save the user asked for failed: the window stays with the edits on it.
+        event->ignore();
+        return;
+    }
+    event->accept();
+    // Every other window of the program closes with the main window.
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w != this && w->isVisible())
+            w->close();
+}
+
+} // namespace brevaro
