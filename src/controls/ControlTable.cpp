@@ -50,6 +50,7 @@ TableBuilder& TableBuilder::add(const char* name, K kind, int index) {
     r.widget = defaultWidget(kind);
     m_rows.push_back(r);
     m_markSet.push_back(false);
+    m_placed.push_back(kUnplaced);
     return *this;
 }
 
@@ -79,8 +80,23 @@ std::vector<ControlRow> TableBuilder::take() {
         if (m_rows[i].side != RecordSide::None && !m_markSet[i])
             qFatal("control %s does not say what an edit marks",
                    qPrintable(m_rows[i].objectName()));
-    placeControls(m_rows);
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        ControlRow& r = m_rows[i];
+        if (m_placed[i] == kUnplaced)
+            qFatal("control %s has no place in the window", qPrintable(r.objectName()));
+        if (m_placed[i] != kBesideItsControl)
+            continue;
+        const auto other = std::find_if(m_rows.begin(), m_rows.end(), [&](const ControlRow& o) {
+            return o.name == r.beside && o.place == Place::MainTab;
+        });
+        if (other == m_rows.end())
+            qFatal("control %s is beside no control of a tab", qPrintable(r.objectName()));
+        r.place = Place::MainTab;
+        r.placeIndex = other->placeIndex;
+        r.frame = other->frame;
+    }
     m_markSet.clear();
+    m_placed.clear();
     return std::move(m_rows);
 }
 

@@ -4,6 +4,8 @@
 #include "records/CompanyRecord.h"
 #include "records/ProgramRecord.h"
 
+#include <algorithm>
+
 namespace brevaro::controltable {
 
 using K = ControlKind;
@@ -67,14 +69,52 @@ public:
         row().source = source ? QString::fromUtf8(source) : QString();
         return *this;
     }
-    // Every row: places it, then checks that each field row said what it marks.
+    // Where the control sits: the window itself, the button bar, a menu (File 0, Tools 1,
+    // Help 2), the banner strip, or out of sight.
+    TableBuilder& on(Place place, int index = 0) { return at(place, index, "", ""); }
+    // On a main tab, in a frame (none: on the page itself), in the row of the control beside
+    // (none: a row of its own).
+    TableBuilder& onTab(int tab, const char* frame = "", const char* beside = "") {
+        return at(Place::MainTab, tab, frame, beside);
+    }
+    // On its language's page of the descriptions (the row's index is the language).
+    TableBuilder& onLanguagePage() {
+        const int language = std::max(0, row().index);
+        at(Place::LanguagePage, language, "", "");
+        if (row().name != QLatin1String("frmDescriptions"))
+            row().frame = QStringLiteral("frmDescriptions_%1").arg(language);
+        return *this;
+    }
+    // In a frame whose name is made at run time (a member of a frame array).
+    TableBuilder& inFrame(const QString& frame) {
+        row().frame = frame;
+        return *this;
+    }
+    // In the row of control, on its tab and in its frame.
+    TableBuilder& besides(const char* control) {
+        row().beside = QString::fromUtf8(control);
+        m_placed.back() = kBesideItsControl;
+        return *this;
+    }
+    // Every row: places the rows beside a control, then checks that each row has a place and
+    // each field row said what it marks.
     std::vector<ControlRow> take();
 
 private:
+    static constexpr char kUnplaced = 0, kPlaced = 1, kBesideItsControl = 2;
+    TableBuilder& at(Place place, int index, const char* frame, const char* beside) {
+        row().place = place;
+        row().placeIndex = index;
+        row().frame = QString::fromUtf8(frame);
+        row().beside = QString::fromUtf8(beside);
+        m_placed.back() = kPlaced;
+        return *this;
+    }
     TableBuilder& field(RecordSide side, int f, int entry, int limit);
     ControlRow& row() { return m_rows.back(); }
     std::vector<ControlRow> m_rows;
     std::vector<bool> m_markSet;
+    std::vector<char> m_placed;
 };
 
 inline constexpr unsigned kBoth = kMarkOnChange | kMarkOnClick;
@@ -88,7 +128,5 @@ void webAndAssociationControls(TableBuilder& t);
 // Buttons, menus, links, frames and labels.
 void commandControls(TableBuilder& t);
 void frameAndLabelControls(TableBuilder& t);
-// Where each control sits in the window.
-void placeControls(std::vector<ControlRow>& rows);
 
 } // namespace brevaro::controltable

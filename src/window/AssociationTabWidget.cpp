@@ -1,5 +1,7 @@
 #include "window/AssociationTabWidget.h"
 
+#include "controls/ControlTable.h"
+
 #include "window/ControlBindingView.h"
 #include "window/LinkLabelWidget.h"
 
@@ -16,7 +18,7 @@ AssociationTabWidget::AssociationTabWidget(ControlBindingView& view, int extensi
     static const char* const activators[] = {"chkASPactivate", "chkESCactivate", "chkMSNactivate",
                                              "chkTPAactivate"};
     static const char* const members[] = {"Frame15", "Frame16", "Frame17", "Frame18"};
-    static const int organizations[] = {0, 1, -1, 2};
+
     auto* column = new QVBoxLayout(this);
     if (auto* title = qobject_cast<QLabel*>(control(u"lblExtensionTitle", extension))) {
         QFont f = title->font();
@@ -28,7 +30,12 @@ AssociationTabWidget::AssociationTabWidget(ControlBindingView& view, int extensi
     }
     column->addWidget(control(QString::fromLatin1(activators[extension])));
     column->addWidget(frame(QLatin1String(members[extension])));
-    if (const int k = organizations[extension]; k >= 0) {
+    // The organisation's frame on this tab, if the extension has one.
+    int k = -1;
+    for (const ControlRow& r : mainWindowControls())
+        if (r.name == QLatin1String("frmOrganization") && r.placeIndex == 5 + extension)
+            k = r.index;
+    if (k >= 0) {
         QGroupBox* box = qobject_cast<QGroupBox*>(control(u"frmOrganization", k));
         auto* inside = new QHBoxLayout(box);
         auto* texts = new QVBoxLayout;
