@@ -58,8 +58,9 @@ TableBuilder& TableBuilder::field(RecordSide side, int f, int entry, int limit) 
     row().side = side;
     row().field = f;
     row().entry = entry;
-    row().limit = limit;
-    if (limit > 0)
+    const RecordLayout& layout = side == RecordSide::Company ? companyLayout() : programLayout();
+    row().limit = limit == kFieldWidth ? layout.field(f).width : limit;
+    if (row().limit > 0)
         row().hint = FocusHint::Counter;
     return *this;
 }

@@ -14,6 +14,9 @@ using A = ControlAction;
 using CF = CompanyField;
 using PF = ProgramField;
 
+// The limit of a box that takes as many characters as its record field holds.
+inline constexpr int kFieldWidth = -1;
+
 // Builds the table row by row; each call of add starts a row and the chained setters fill
 // it. A row that holds a record field must say explicitly whether an edit marks a record.
 class TableBuilder {
