@@ -55,15 +55,11 @@ Target resolve(EditingSession& s, const FieldAssignment& a, bool haveProgram) {
     if (f.count == 1 && a.index > 0)
         throw CliError{2, QStringLiteral("%1 has no entry %2").arg(a.name).arg(a.index)};
     t.entry = std::max(0, a.index);
-    for (int id = 0; id < s.screen().count(); ++id) {
-        const ControlRow& c = s.row(id);
-        if (c.side != t.side || c.field != t.field)
-            continue;
-        if (c.kind == ControlKind::ListBox && t.entry < s.screen().at(id).items.size())
-            t.control = id;
-        else if (c.kind != ControlKind::ListBox && c.entry == t.entry)
-            t.control = id;
-    }
+    t.control = controlOfField(t.side, t.field, t.entry);
+    // A list box shows only the entries of its list; the rest live in the record alone.
+    if (t.control >= 0 && s.row(t.control).kind == ControlKind::ListBox &&
+        t.entry >= s.screen().at(t.control).items.size())
+        t.control = -1;
     return t;
 }
 

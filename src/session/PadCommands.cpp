@@ -58,15 +58,11 @@ public:
     }
 
 private:
-    // The control that shows entry of a field: list boxes show every entry of theirs.
-    int control(RecordSide side, int field, int entry) const {
-        for (int id = 0; id < m_s.screen().count(); ++id) {
-            const ControlRow& r = m_s.row(id);
-            if (r.side == side && r.field == field &&
-                (r.entry == entry || r.kind == ControlKind::ListBox))
-                return id;
-        }
-        qFatal("no control shows field %d entry %d", field, entry);
+    static int control(RecordSide side, int field, int entry) {
+        const int id = controlOfField(side, field, entry);
+        if (id < 0)
+            qFatal("no control shows field %d entry %d", field, entry);
+        return id;
     }
 
     EditingSession& m_s;
