@@ -17,10 +17,19 @@ QString oneName(const CliArgs& args, const char* what) {
     return name;
 }
 
-void press(CliContext& ctx, int button) {
-    EditingSession& s = ctx.session();
-    s.screen().click(s.id(u"cmdButton", button));
-    ctx.failOnMessages();
+// Runs a command of the window; what it did decides the exit status, not what it said.
+void run(CliContext& ctx, ControlAction action) {
+    const CommandResult result = ctx.session().trigger(action);
+    switch (result.outcome) {
+    case CommandResult::Outcome::Done:
+        return;
+    case CommandResult::Outcome::Declined:
+        throw CliError{2, QStringLiteral("nothing was changed")};
+    case CommandResult::Outcome::Refused:
+        throw CliError{2, result.reason};
+    case CommandResult::Outcome::Failed:
+        throw CliError{2, QStringLiteral("the changes could not be saved: ") + result.reason};
+    }
 }
 
 // An assignment resolved against the control table: the control that shows the field, or
@@ -107,8 +116,8 @@ void apply(EditingSession& s, const Target& t, const FieldAssignment& a) {
 int newCompanyCommand(CliContext& ctx, const QStringList& words) {
     const QString name = oneName(CliArgs(words, {}, {}), "company name");
     ctx.prompts().nextInput = name;
-    press(ctx, 0);
-    press(ctx, 1);
+    run(ctx, ControlAction::NewCompany);
+    run(ctx, ControlAction::SaveCompany);
     ctx.print(QStringLiteral("%1\n").arg(ctx.session().state().CurrentCompanyNo));
     return 0;
 }
@@ -120,8 +129,8 @@ int newProgramCommand(CliContext& ctx, const QStringList& words) {
     const int c = ctx.company(args.required(QStringLiteral("-c")));
     ctx.select(c);
     ctx.prompts().nextInput = name;
-    press(ctx, 3);
-    press(ctx, 4);
+    run(ctx, ControlAction::NewProgram);
+    run(ctx, ControlAction::SaveProgram);
     ctx.print(QStringLiteral("%1\t%2\n").arg(c).arg(ctx.session().state().CurrentProgramNo));
     return 0;
 }
@@ -134,10 +143,10 @@ int deleteCommand(CliContext& ctx, const QStringList& words) {
     const int c = ctx.company(args.required(QStringLiteral("-c")));
     if (args.has(QStringLiteral("-p"))) {
         ctx.select(c, ctx.program(ctx.companyId(c), args.value(QStringLiteral("-p"))));
-        press(ctx, 5);
+        run(ctx, ControlAction::DeleteProgram);
     } else {
         ctx.select(c);
-        press(ctx, 2);
+        run(ctx, ControlAction::DeleteCompany);
     }
     return 0;
 }
@@ -188,9 +197,9 @@ int setCommand(CliContext& ctx, const QStringList& words) {
         s.screen().click(s.id(u"cmdOpenFileInfo"));
     }
     if (s.state().CompanyDirty)
-        press(ctx, 1); // also saves the program, which is offered first
+        run(ctx, ControlAction::SaveCompany); // also saves the program, which is offered first
     if (s.state().ProgramDirty)
-        press(ctx, 4);
+        run(ctx, ControlAction::SaveProgram);
     return 0;
 }
 

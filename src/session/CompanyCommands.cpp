@@ -72,17 +72,18 @@ void CompanyCommands::OpenCompanies() {
     m_s.transfer().EnableCompanyFields(any);
 }
 
-void CompanyCommands::NewCompany() {
+CommandResult CompanyCommands::NewCompany() {
     if (!m_s.navigation().isCompanyDirty())
-        return;
+        return CommandResult::failed(m_s.store().errorString());
     const auto answer = m_s.prompts().inputBox(
         QStringLiteral("Enter new Company Name, or if you don't have a company, your First and "
                        "Last name: "),
         QStringLiteral("New Company"), QString());
     const QString name = trimBlanks(answer.value_or(QString()));
     if (name.isEmpty())
-        return;
+        return CommandResult::declined();
     CreateCompany(name);
+    return CommandResult::done();
 }
 
 void CompanyCommands::CreateCompany(const QString& name) {
@@ -101,15 +102,15 @@ void CompanyCommands::CreateCompany(const QString& name) {
     m_s.screen().requestFocus(m_s.id(u"txtAddress1"));
 }
 
-bool CompanyCommands::SaveCompany() {
+CommandResult CompanyCommands::SaveCompany() {
     m_s.transfer().ScreenToCompany();
     if (!WriteCurrentCompany())
-        return false;
+        return CommandResult::failed(m_s.store().errorString());
     m_s.company().trimText(CompanyField::CompanyName);
     m_s.navigation().SetCompanyClean();
     m_s.screen().setListIndex(m_s.id(u"cboCompanyName"), m_state.CurrentCompanyNo - 1);
     m_state.NewCompanyPending = false;
-    return true;
+    return CommandResult::done();
 }
 
 bool CompanyCommands::FindCompany(const QString& name) {
@@ -122,21 +123,19 @@ bool CompanyCommands::FindCompany(const QString& name) {
     return true;
 }
 
-void CompanyCommands::DeleteCompany() {
+CommandResult CompanyCommands::DeleteCompany() {
     const ControlState& selector = m_s.screen().at(u"cboCompanyName");
     if (selector.items.isEmpty() || trimBlanks(selector.text).isEmpty())
-        return;
+        return CommandResult::refused(QStringLiteral("no company is shown"));
     const QString name = m_s.company().trimText(CompanyField::CompanyName);
     if (!confirmDelete(m_s, name))
-        return;
+        return CommandResult::declined();
     if (!m_s.store().companyFile().exists())
-        return;
+        return CommandResult::refused(QStringLiteral("there is no company file"));
     const int doomed = m_state.CurrentCompanyNo;
     // A new company that was never saved has nothing on disk to remove.
-    if (doomed <= GetCompanyCount() && !m_s.store().deleteCompany(doomed)) {
-        reportDeleteFailure(m_s, name);
-        return;
-    }
+    if (doomed <= GetCompanyCount() && !m_s.store().deleteCompany(doomed))
+        return reportDeleteFailure(m_s, name);
     m_state.NewCompanyPending = false;
     m_state.CompanyDirty = m_state.ProgramDirty = false;
     m_state.CurrentCompanyNo = 1;
@@ -148,6 +147,7 @@ void CompanyCommands::DeleteCompany() {
     m_s.navigation().SetProgramClean();
     if (m_s.screen().at(u"cboCompanyName").items.isEmpty())
         m_s.transfer().EnableCompanyFields(false);
+    return CommandResult::done();
 }
 
 } // namespace brevaro

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "session/CommandResult.h"
 #include "session/SessionState.h"
 
 #include <QString>
@@ -22,12 +23,13 @@ public:
     void ShowCurrentCompany();
     void ShowCompanyPosition();
     void OpenCompanies();
-    void NewCompany();
+    // Asks for a name (after offering to save the shown company) and starts a new company.
+    CommandResult NewCompany();
     void CreateCompany(const QString& name);
-    // False when the record could not be written: it stays modified.
-    bool SaveCompany();
+    // Failed when the record could not be written: it stays modified.
+    CommandResult SaveCompany();
     bool FindCompany(const QString& name);
-    void DeleteCompany();
+    CommandResult DeleteCompany();
 
 private:
     EditingSession& m_s;

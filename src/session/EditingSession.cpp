@@ -139,22 +139,18 @@ void EditingSession::onFocus(int control) {
     m_assistance.showFocusHint(control);
 }
 
-void EditingSession::runAction(const ControlRow& r) {
-    switch (r.action) {
+std::optional<CommandResult> EditingSession::runRecordCommand(ControlAction action) {
+    switch (action) {
     case ControlAction::NewCompany:
         return m_companies.NewCompany();
     case ControlAction::SaveCompany:
-        if (m_companies.SaveCompany())
-            m_navigation.SetCompanyClean();
-        return;
+        return m_companies.SaveCompany();
     case ControlAction::DeleteCompany:
         return m_companies.DeleteCompany();
     case ControlAction::NewProgram:
         return m_programs.NewProgram();
     case ControlAction::SaveProgram:
-        if (m_programs.SaveProgram())
-            m_navigation.SetProgramClean();
-        return;
+        return m_programs.SaveProgram();
     case ControlAction::DeleteProgram:
         return m_programs.DeleteProgram();
     case ControlAction::VerifyPAD:
@@ -163,6 +159,32 @@ void EditingSession::runAction(const ControlRow& r) {
         return m_pad.CreatePADFile();
     case ControlAction::ImportPAD:
         return m_pad.ImportPAD();
+    default:
+        return std::nullopt;
+    }
+}
+
+CommandResult EditingSession::trigger(ControlAction action) {
+    if (auto result = runRecordCommand(action))
+        return *result;
+    for (const ControlRow& r : m_controls)
+        if (r.action == action) {
+            runAction(r);
+            return CommandResult::done();
+        }
+    return CommandResult::refused(QStringLiteral("there is no such command"));
+}
+
+void EditingSession::setCommandEnabled(ControlAction action, bool enabled) {
+    for (std::size_t id = 0; id < m_controls.size(); ++id)
+        if (m_controls[id].action == action)
+            m_screen.setEnabled(static_cast<int>(id), enabled);
+}
+
+void EditingSession::runAction(const ControlRow& r) {
+    if (runRecordCommand(r.action))
+        return;
+    switch (r.action) {
     case ControlAction::Exit:
         Shutdown();
         return;
@@ -207,12 +229,7 @@ void EditingSession::runAction(const ControlRow& r) {
         return m_programTab.loadText(r.target);
     case ControlAction::SaveText:
         return m_programTab.saveText(r.target);
-    case ControlAction::None:
-    case ControlAction::SelectCompany:
-    case ControlAction::SelectProgram:
-    case ControlAction::SelectTab:
-    case ControlAction::ExpiryCheck:
-    case ControlAction::ExpiryOption:
+    default: // the record commands ran above; the rest act on their own controls
         return;
     }
 }

@@ -18,6 +18,7 @@
 #include <QObject>
 #include <functional>
 #include <map>
+#include <optional>
 
 namespace brevaro {
 
@@ -48,6 +49,12 @@ public:
     FieldAssistance& assistance() { return m_assistance; }
     ProgramTabTools& programTab() { return m_programTab; }
     PadCommands& pad() { return m_pad; }
+
+    // Runs a command of the button bar and the menus as a click on any control of it does,
+    // and says what it did. Commands that only show something are done once shown.
+    CommandResult trigger(ControlAction action);
+    // Enables or disables a command: every control that runs it (button and menu items).
+    void setCommandEnabled(ControlAction action, bool enabled);
 
     // Supplies an action that lives outside the session (Submit, Keywords, About, the
     // banners); without one the action says it is not available yet.
@@ -80,6 +87,8 @@ private:
     void onClick(int id) override;
     void onFocus(int id) override;
     void runAction(const ControlRow& row);
+    // The commands that report what they did; nothing for the other actions.
+    std::optional<CommandResult> runRecordCommand(ControlAction action);
     void runCommand(ControlAction action, const QString& name);
     void markModified(const ControlRow& control, unsigned event);
     void openLink(LinkTarget target);

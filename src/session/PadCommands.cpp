@@ -73,18 +73,19 @@ private:
 PadCommands::PadCommands(EditingSession& session)
     : m_s(session) {}
 
-void PadCommands::VerifyPAD() {
+CommandResult PadCommands::VerifyPAD() {
     const QString path = m_s.store().home().verificationPage();
     const QByteArray page =
         toWin1252(verificationPage(m_s.company(), m_s.program(), m_s.text(u"lblOrganization", 0)));
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(page) != page.size() || !file.commit()) {
-        m_s.prompts().message(QStringLiteral("Verify PAD"),
-                              QStringLiteral("The verification page %1 could not be written: %2")
-                                  .arg(path, file.errorString()));
-        return;
+        const QString message = QStringLiteral("The verification page %1 could not be written: %2")
+                                    .arg(path, file.errorString());
+        m_s.prompts().message(QStringLiteral("Verify PAD"), message);
+        return CommandResult::failed(message);
     }
     m_s.prompts().openDocument(QUrl::fromLocalFile(path).toString());
+    return CommandResult::done();
 }
 
 bool PadCommands::writePadFiles(const QString& path, QString* error) {
@@ -92,14 +93,14 @@ bool PadCommands::writePadFiles(const QString& path, QString* error) {
                                   path, error);
 }
 
-void PadCommands::CreatePADFile() {
+CommandResult PadCommands::CreatePADFile() {
     m_s.navigation().isCompanyDirty();
     m_s.navigation().isProgramDirty();
     if (m_s.state().CompanyDirty || m_s.state().ProgramDirty) {
         m_s.prompts().beep();
-        m_s.navigation().SimpleText(
-            QStringLiteral("You MUST save before you can create your PAD file ..."));
-        return;
+        const QString why = QStringLiteral("You MUST save before you can create your PAD file ...");
+        m_s.navigation().SimpleText(why);
+        return CommandResult::refused(why);
     }
     const QString folder =
         QDir(m_s.store().home().padFolder())
@@ -109,11 +110,11 @@ void PadCommands::CreatePADFile() {
         {proposedPadFileName(m_s.text(u"txtPadXMLfileURL"), m_s.text(u"cboProgramName")),
          QStringLiteral("xml"), folder, QStringLiteral("PAD File(s) (*.xml)|*.xml")});
     if (!chosen || chosen->isEmpty())
-        return;
+        return CommandResult::declined();
     QString error;
     if (!writePadFiles(QDir::toNativeSeparators(*chosen), &error)) {
         m_s.prompts().message(QStringLiteral("Create PAD"), error);
-        return;
+        return CommandResult::failed(error);
     }
     // The file is written as asked; what download sites would reject is said afterwards.
     const auto findings = checkPad(m_s.company(), m_s.program());
@@ -125,6 +126,7 @@ void PadCommands::CreatePADFile() {
             QStringLiteral("The PAD file was written, but %1 of its values will make download "
                            "sites reject it: Tools, Check PAD shows where.")
                 .arg(errors));
+    return CommandResult::done();
 }
 
 std::vector<PadFinding> PadCommands::checkScreen() {
@@ -165,16 +167,16 @@ bool PadCommands::importPadFile(const QString& path) {
     return accepted;
 }
 
-void PadCommands::ImportPAD() {
+CommandResult PadCommands::ImportPAD() {
     // The import replaces the fields on screen: what the user changed is offered for saving.
     if (!m_s.navigation().isCompanyDirty() || !m_s.navigation().isProgramDirty())
-        return;
+        return CommandResult::failed(m_s.store().errorString());
     const QString folder = m_s.store().home().padFolder();
     ensureFolder(folder);
     const auto chosen = m_s.prompts().openFile(
         {QString(), QStringLiteral("xml"), folder, QStringLiteral("PAD File(s) (*.xml)|*.xml")});
     if (!chosen || chosen->isEmpty())
-        return;
+        return CommandResult::declined();
     // The company and the program the file holds are saved together or not at all.
     RecordStore& store = m_s.store();
     store.beginBatch();
@@ -183,12 +185,16 @@ void PadCommands::ImportPAD() {
     const bool savedBoth = !m_s.state().CompanyDirty && !m_s.state().ProgramDirty;
     const bool written = savedBoth && store.commitBatch();
     store.endBatch();
-    if (accepted && !written) {
+    if (!accepted)
+        return CommandResult::refused(QStringLiteral("%1 is not a PAD file").arg(*chosen));
+    if (!written) {
         m_s.navigation().SetCompanyDirty();
         m_s.navigation().SetProgramDirty();
         if (savedBoth)
-            reportWriteFailure(m_s, QStringLiteral("The imported company and program"));
+            return reportWriteFailure(m_s, QStringLiteral("The imported company and program"));
+        return CommandResult::failed(store.errorString());
     }
+    return CommandResult::done();
 }
 
 } // namespace brevaro

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pad/PadCheck.h"
+#include "session/CommandResult.h"
 
 #include <QString>
 #include <vector>
@@ -15,14 +16,14 @@ public:
     explicit PadCommands(EditingSession& session);
 
     // Writes temp1.htm in the home and opens it.
-    void VerifyPAD();
+    CommandResult VerifyPAD();
     // Saves what is modified (asking first), then writes the PAD file and its web info
     // block where the user chooses.
-    void CreatePADFile();
+    CommandResult CreatePADFile();
     // Writes both files at path without asking; false with a message on failure.
     bool writePadFiles(const QString& path, QString* error);
     // Asks for a file and imports it.
-    void ImportPAD();
+    CommandResult ImportPAD();
     // Imports one file and saves what it set; false when the file was refused.
     bool importPadFile(const QString& path);
     // The PAD check over what the screen shows now, saved or not.

@@ -97,15 +97,16 @@ void ProgramCommands::OpenPrograms() {
     m_s.transfer().EnableProgramFields(!m_s.screen().at(u"cboProgramName").items.isEmpty());
 }
 
-void ProgramCommands::NewProgram() {
+CommandResult ProgramCommands::NewProgram() {
     if (!m_s.navigation().isProgramDirty())
-        return;
+        return CommandResult::failed(m_s.store().errorString());
     const auto answer = m_s.prompts().inputBox(QStringLiteral("Enter new Program Name:"),
                                                QStringLiteral("New Program"), QString());
     const QString name = trimBlanks(answer.value_or(QString()));
     if (name.isEmpty())
-        return;
+        return CommandResult::declined();
     CreateProgram(name);
+    return CommandResult::done();
 }
 
 void ProgramCommands::CreateProgram(const QString& name) {
@@ -124,34 +125,32 @@ void ProgramCommands::CreateProgram(const QString& name) {
     m_s.screen().requestFocus(m_s.id(u"txtProgramVersion"));
 }
 
-bool ProgramCommands::SaveProgram() {
+CommandResult ProgramCommands::SaveProgram() {
     if (m_state.CurrentProgramNo < 1)
-        return false;
+        return CommandResult::refused(QStringLiteral("no program is shown"));
     m_s.transfer().ScreenToProgram();
     if (!WriteCurrentProgram())
-        return false;
+        return CommandResult::failed(m_s.store().errorString());
     if (m_state.NewProgramPending)
         LoadProgramList();
     m_s.navigation().SetProgramClean();
     m_s.screen().setListIndex(m_s.id(u"cboProgramName"), m_state.CurrentProgramNo - 1);
     m_state.NewProgramPending = false;
-    return true;
+    return CommandResult::done();
 }
 
-void ProgramCommands::DeleteProgram() {
+CommandResult ProgramCommands::DeleteProgram() {
     if (m_s.screen().at(u"cboProgramName").items.isEmpty())
-        return;
+        return CommandResult::refused(QStringLiteral("no program is shown"));
     const QString name = m_s.program().trimText(ProgramField::ProgramName);
     if (!confirmDelete(m_s, name))
-        return;
+        return CommandResult::declined();
     const int id = companyId();
     if (!m_s.store().programFile(id).exists())
-        return;
+        return CommandResult::refused(QStringLiteral("the company has no program file"));
     const int doomed = m_state.CurrentProgramNo;
-    if (doomed >= 1 && doomed <= GetProgramCount() && !m_s.store().deleteProgram(id, doomed)) {
-        reportDeleteFailure(m_s, name);
-        return;
-    }
+    if (doomed >= 1 && doomed <= GetProgramCount() && !m_s.store().deleteProgram(id, doomed))
+        return reportDeleteFailure(m_s, name);
     m_state.NewProgramPending = false;
     m_state.ProgramDirty = false;
     m_s.navigation().LoadCompanyProgramOnly();
@@ -159,6 +158,7 @@ void ProgramCommands::DeleteProgram() {
         m_state.CurrentProgramNo = 0;
     ShowProgramPosition();
     m_s.navigation().SetProgramClean();
+    return CommandResult::done();
 }
 
 } // namespace brevaro

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "session/CommandResult.h"
 #include "session/SessionState.h"
 
 #include <QString>
@@ -22,11 +23,12 @@ public:
     void ShowSelectedProgram();
     void ShowProgramPosition();
     void OpenPrograms();
-    void NewProgram();
+    // Asks for a name (after offering to save the shown program) and starts a new program.
+    CommandResult NewProgram();
     void CreateProgram(const QString& name);
-    // False when the record could not be written: it stays modified.
-    bool SaveProgram();
-    void DeleteProgram();
+    // Failed when the record could not be written: it stays modified.
+    CommandResult SaveProgram();
+    CommandResult DeleteProgram();
 
 private:
     int companyId() const;

@@ -11,18 +11,20 @@ bool confirmDelete(EditingSession& s, const QString& name) {
                                 Prompts::Icon::Question);
 }
 
-void reportDeleteFailure(EditingSession& s, const QString& name) {
+CommandResult reportDeleteFailure(EditingSession& s, const QString& name) {
     s.prompts().message(QStringLiteral("Delete ") + name,
                         name + QStringLiteral(" could not be deleted.\n\n") +
                             s.store().errorString());
+    return CommandResult::failed(s.store().errorString());
 }
 
-void reportWriteFailure(EditingSession& s, const QString& what) {
+CommandResult reportWriteFailure(EditingSession& s, const QString& what) {
     s.prompts().message(QLatin1String(kAppTitle),
                         what +
                             QStringLiteral(" could not be saved, and your changes are still on "
                                            "the screen.\n\n") +
                             s.store().errorString());
+    return CommandResult::failed(s.store().errorString());
 }
 
 } // namespace brevaro

@@ -22,7 +22,7 @@ bool SessionNavigation::isCompanyDirty() {
                                 QStringLiteral("Do you want to save ") + name + u'?',
                                 Prompts::Icon::Question))
         return true;
-    return m_s.companies().SaveCompany();
+    return m_s.companies().SaveCompany().isDone();
 }
 
 bool SessionNavigation::isProgramDirty() {
@@ -155,12 +155,13 @@ void SessionNavigation::tabSelected() {
     }
     const int tab = screen.at(tabs).listIndex;
     SimpleText(mainTabCaptions().value(tab));
-    // Which of buttons 0..5 are enabled, and the menu items 0..2, 4..6 that mirror them.
-    for (int b = 0; b < 6; ++b) {
-        const bool on = tab == 0 ? b <= 2 : tab == 1 ? b >= 3 : b == 4;
-        screen.setEnabled(m_s.id(u"cmdButton", b), on);
-        screen.setEnabled(m_s.id(u"mnuPAD", b < 3 ? b : b + 1), on);
-    }
+    // The company commands on the company tab, the program commands on the program tab, and
+    // Save Program on every other tab.
+    using A = ControlAction;
+    for (const A company : {A::NewCompany, A::SaveCompany, A::DeleteCompany})
+        m_s.setCommandEnabled(company, tab == 0);
+    for (const A program : {A::NewProgram, A::SaveProgram, A::DeleteProgram})
+        m_s.setCommandEnabled(program, tab == 1 || (tab > 1 && program == A::SaveProgram));
 }
 
 } // namespace brevaro

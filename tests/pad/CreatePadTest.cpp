@@ -35,7 +35,7 @@ protected:
         addCompany(QStringLiteral("../../x"));
         addProgram(QStringLiteral("My Widget"));
         type(u"txtProgramVersion", QStringLiteral("2.5"));
-        button(4);
+        command(ControlAction::SaveProgram);
     }
 };
 
@@ -44,7 +44,7 @@ protected:
 TEST_F(CreatePadTest, WritesBothFilesInsideThePadFolder) {
     const QString folder = home.file(QStringLiteral("pad/.._.._x"));
     prompts.files.push_back(folder + QStringLiteral("/Widget.XML"));
-    button(7);
+    command(ControlAction::CreatePAD);
     ASSERT_EQ(prompts.dialogs.size(), 1);
     EXPECT_EQ(prompts.dialogs[0].fileName, QStringLiteral("my_widget"));
     EXPECT_EQ(prompts.dialogs[0].initialFolder, folder);
@@ -65,21 +65,21 @@ TEST_F(CreatePadTest, WritesBothFilesInsideThePadFolder) {
 TEST_F(CreatePadTest, UnsavedChangesStopIt) {
     type(u"txtCostUS", QStringLiteral("10"));
     prompts.yesNo = {false};
-    button(7);
+    command(ControlAction::CreatePAD);
     EXPECT_EQ(status(), QStringLiteral("You MUST save before you can create your PAD file ..."));
     EXPECT_EQ(prompts.beeps, 1);
     EXPECT_TRUE(prompts.dialogs.isEmpty());
     // Saying Yes saves and goes on; cancelling the dialog writes nothing.
     prompts.yesNo = {true};
     prompts.files.push_back(std::nullopt);
-    button(7);
+    command(ControlAction::CreatePAD);
     EXPECT_EQ(prompts.dialogs.size(), 1);
     EXPECT_TRUE(QDir(home.file(QStringLiteral("pad/.._.._x"))).isEmpty());
 }
 
 TEST_F(CreatePadTest, VerifyWritesThePageAndOpensIt) {
     type(u"txtCostUS", QStringLiteral("10")); // unsaved values show as they stand in memory
-    button(6);
+    command(ControlAction::VerifyPAD);
     const QString page = home.file(QStringLiteral("temp1.htm"));
     EXPECT_EQ(readBytes(page), toWin1252(verificationPage(session->company(), session->program(),
                                                           text(u"lblOrganization", 0))));

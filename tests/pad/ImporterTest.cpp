@@ -132,7 +132,8 @@ TEST_F(ImporterTest, BrokenTextEndsTheScanCleanly) {
 TEST_F(ImporterTest, TagRules) {
     addCompany(QStringLiteral("Acme"));
     type(u"txtAddress1", QStringLiteral("kept"));
-    button(1);
+    type(u"txtAddress2", QStringLiteral("emptied"));
+    command(ControlAction::SaveCompany);
     const QString path =
         padFile(QStringLiteral("rules.xml"),
                 minimal("<Company_Name>Acme</Company_Name>\r\n"
@@ -155,7 +156,9 @@ TEST_F(ImporterTest, TagRules) {
               (QStringList{QStringLiteral("Widget"), QStringLiteral("Widget")}));
     CompanyRecord c;
     store.readCompany(1, c);
-    EXPECT_EQ(c.text(CompanyField::Address1), QStringLiteral("kept")); // the company's own value
+    // The empty form keeps the shown company's value; nothing between the tags empties it.
+    EXPECT_EQ(c.text(CompanyField::Address1), QStringLiteral("kept"));
+    EXPECT_EQ(c.text(CompanyField::Address2), QString());
     ProgramRecord p;
     store.readProgram(1, 2, p);
     for (int i = 0; i < 26; ++i) // "OS/2 Warp 4" also holds "OS/2" and "OS/2 Warp"
@@ -174,22 +177,29 @@ TEST_F(ImporterTest, TagRules) {
     EXPECT_EQ(session->state().CurrentProgramNo, 2);
 }
 
-TEST_F(ImporterTest, ACompanyOnlyDifferingInCaseIsANewOne) {
+// A file of company elements only makes a company and no program; a name differing only in
+// case is another company.
+TEST_F(ImporterTest, CompanyElementsAloneMakeNoProgram) {
     addCompany(QStringLiteral("Acme"));
-    ASSERT_TRUE(
-        import(padFile(QStringLiteral("a.xml"), minimal("<Company_Name>ACME</Company_Name>"))));
+    ASSERT_TRUE(import(
+        padFile(QStringLiteral("a.xml"), minimal("<Company_Info><Company_Name>ACME</Company_Name>"
+                                                 "<City_Town>Leeds</City_Town></Company_Info>"))));
     EXPECT_EQ(store.companyNames(), (QStringList{QStringLiteral("Acme"), QStringLiteral("ACME")}));
+    EXPECT_EQ(store.programCount(1) + store.programCount(2), 0);
+    CompanyRecord c;
+    store.readCompany(2, c);
+    EXPECT_EQ(c.text(CompanyField::CityTown), QStringLiteral("Leeds"));
 }
 
 TEST_F(ImporterTest, ImportCommandAsksForTheFile) {
     prompts.files.push_back(std::nullopt);
-    click(u"mnuPAD", 8);
+    command(ControlAction::ImportPAD);
     ASSERT_EQ(prompts.dialogs.size(), 1);
     EXPECT_EQ(prompts.dialogs[0].filter, QStringLiteral("PAD File(s) (*.xml)|*.xml"));
     EXPECT_EQ(prompts.dialogs[0].initialFolder, home.home().padFolder());
     prompts.files.push_back(
         padFile(QStringLiteral("m.xml"), minimal("<Company_Name>Menu</Company_Name>")));
-    click(u"mnuPAD", 8);
+    command(ControlAction::ImportPAD);
     EXPECT_EQ(store.companyNames(), QStringList{QStringLiteral("Menu")});
 }
 

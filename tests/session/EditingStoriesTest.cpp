@@ -28,7 +28,7 @@ TEST_F(SessionTest, FirstCompanyAndProgramFromAnEmptyHome) {
     EXPECT_EQ(at(u"SSTab1").listIndex, 0);
 
     type(u"txtCity", QStringLiteral("Springfield"));
-    button(1);
+    command(ControlAction::SaveCompany);
     EXPECT_EQ(store.companyNames(), QStringList{QStringLiteral("Acme Tools")});
     EXPECT_FALSE(session->state().NewCompanyPending);
     EXPECT_TRUE(at(u"cboCompanyName").enabled);
@@ -48,7 +48,7 @@ TEST_F(SessionTest, FirstCompanyAndProgramFromAnEmptyHome) {
     type(u"txtCostUS", QStringLiteral("29.95"));
     screen().setItemSelected(id(u"lstSupportedOS"), 1, true);
     screen().setValue(id(u"chkIncludeJava"), 1);
-    button(4);
+    command(ControlAction::SaveProgram);
     EXPECT_TRUE(at(u"cboProgramName").enabled);
     EXPECT_FALSE(caption().contains(QStringLiteral("MODIFIED")));
 
@@ -69,7 +69,7 @@ TEST_F(SessionTest, FirstCompanyAndProgramFromAnEmptyHome) {
 
 TEST_F(SessionTest, BlankOrCancelledNamesChangeNothing) {
     prompts.inputs.push_back(std::nullopt);
-    button(0);
+    command(ControlAction::NewCompany);
     newCompany(QStringLiteral("   "));
     EXPECT_FALSE(session->state().NewCompanyPending);
     EXPECT_EQ(text(u"lblCompanyRecord"), QStringLiteral("0 of 0"));
@@ -84,7 +84,7 @@ TEST_F(SessionTest, ClosingWithBothModifiedAsksCompanyThenProgram) {
     type(u"txtEULA", QStringLiteral("terms"));
     QSignalSpy closed(session.get(), &EditingSession::closeRequested);
     prompts.yesNo = {false, false};
-    click(u"mnuPAD", 13);
+    command(ControlAction::Exit);
     ASSERT_EQ(prompts.asked.size(), 4);
     EXPECT_EQ(prompts.asked[2], QStringLiteral("Acme not saved|Do you want to save Acme?"));
     EXPECT_EQ(prompts.asked[3],
@@ -101,7 +101,7 @@ TEST_F(SessionTest, SavingTheCompanyNeverDropsProgramEdits) {
     type(u"txtAddress1", QStringLiteral("Main Street"));
     type(u"txtProgramVersion", QStringLiteral("2.0"));
     prompts.yesNo = {true};
-    button(1);
+    command(ControlAction::SaveCompany);
     EXPECT_EQ(prompts.asked.back(),
               QStringLiteral("Widget Company not saved|Do you want to save Widget?"));
     EXPECT_EQ(text(u"txtProgramVersion"), QStringLiteral("2.0"));
@@ -122,11 +122,11 @@ TEST_F(SessionTest, DeletingAsksAndCompacts) {
 
     selectCompany(2);
     prompts.yesNo = {false};
-    button(2);
+    EXPECT_EQ(command(ControlAction::DeleteCompany).outcome, CommandResult::Outcome::Declined);
     EXPECT_EQ(prompts.asked.back(), QStringLiteral("Delete B|Do you want to delete B?"));
     EXPECT_EQ(store.companyCount(), 3);
     prompts.yesNo = {true};
-    button(2);
+    EXPECT_TRUE(command(ControlAction::DeleteCompany).isDone());
     EXPECT_EQ(store.companyNames(), (QStringList{QStringLiteral("A"), QStringLiteral("C")}));
     EXPECT_EQ(at(u"cboCompanyName").items, (QStringList{QStringLiteral("A"), QStringLiteral("C")}));
     EXPECT_EQ(text(u"lblCompanyRecord"), QStringLiteral("1 of 2"));
@@ -136,18 +136,23 @@ TEST_F(SessionTest, DeletingAsksAndCompacts) {
 
     selectProgram(1);
     prompts.yesNo = {true};
-    button(5);
+    command(ControlAction::DeleteProgram);
     EXPECT_EQ(store.programNames(2), QStringList{QStringLiteral("c2")});
     EXPECT_EQ(text(u"cboProgramName"), QStringLiteral("c2"));
     EXPECT_EQ(session->state().CurrentProgramNo, 1);
     // The program shown is the one a save writes.
     type(u"txtProgramVersion", QStringLiteral("9"));
-    button(4);
+    command(ControlAction::SaveProgram);
     EXPECT_EQ(store.programNames(2), QStringList{QStringLiteral("c2")});
     prompts.yesNo = {true};
-    button(5);
+    EXPECT_TRUE(command(ControlAction::DeleteProgram).isDone());
     EXPECT_FALSE(QFile::exists(home.file(QStringLiteral("data/2.dta"))));
     EXPECT_EQ(text(u"lblProgramRecord"), QStringLiteral("0 of 0"));
+    // With no program left there is nothing to delete or save, and nothing is asked.
+    const qsizetype asked = prompts.asked.size();
+    EXPECT_EQ(command(ControlAction::DeleteProgram).outcome, CommandResult::Outcome::Refused);
+    EXPECT_EQ(command(ControlAction::SaveProgram).outcome, CommandResult::Outcome::Refused);
+    EXPECT_EQ(prompts.asked.size(), asked);
 }
 
 TEST_F(SessionTest, SelectingCompaniesShowsTheirOwnPrograms) {
@@ -155,7 +160,7 @@ TEST_F(SessionTest, SelectingCompaniesShowsTheirOwnPrograms) {
     addProgram(QStringLiteral("a1"));
     addProgram(QStringLiteral("a2"));
     type(u"txt45char", QStringLiteral("second"), 0);
-    button(4);
+    command(ControlAction::SaveProgram);
     addCompany(QStringLiteral("B"));
     EXPECT_TRUE(at(u"cboProgramName").items.isEmpty());
     EXPECT_EQ(text(u"txtProgramVersion"), QString());
@@ -174,11 +179,11 @@ TEST_F(SessionTest, SelectingCompaniesShowsTheirOwnPrograms) {
 }
 
 TEST_F(SessionTest, CommandsThatAreNotBuiltSaySo) {
-    button(8);
+    command(ControlAction::Submit);
     EXPECT_TRUE(prompts.messages.isEmpty());
     EXPECT_EQ(status(), QStringLiteral("Submit is not available yet."));
     bool ran = false;
     session->setCommandHandler(ControlAction::Submit, [&] { ran = true; });
-    click(u"mnuPAD", 11);
+    command(ControlAction::Submit);
     EXPECT_TRUE(ran);
 }

@@ -67,7 +67,7 @@ TEST_F(FieldHelpTest, CopyButtonsUseTheSelectedLanguage) {
     type(u"txt80char", QStringLiteral("German eighty"), 3);
     type(u"txt250char", QStringLiteral("English 250"), 0);
     screen().setListIndex(id(u"SSTab2"), 3);
-    button(4); // save first, so the copy's mark is visible
+    command(ControlAction::SaveProgram); // save first, so the copy's mark is visible
     click(u"cmdCopyDesc", 0);
     EXPECT_EQ(text(u"txt250char", 3), QStringLiteral("German eighty"));
     EXPECT_EQ(text(u"txt250char", 0), QStringLiteral("English 250"));
@@ -96,7 +96,7 @@ TEST_F(FieldHelpTest, TranslationAndLinkAddresses) {
     type(u"txtAuthorLname", QStringLiteral("Doe"));
     type(u"txtAuthorEmail", QStringLiteral("jane@example.com"));
     prompts.yesNo = {true};
-    button(1);
+    command(ControlAction::SaveCompany);
     click(u"mnuHelp", 7);
     click(u"mnuHelp", 10);
     click(u"picBrevaro");

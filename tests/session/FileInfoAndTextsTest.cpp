@@ -25,7 +25,7 @@ protected:
 
 TEST_F(ProgramTabTest, FileInfoProposesNamesAndSizes) {
     type(u"txtProgramVersion", QStringLiteral("1.25"));
-    button(4);
+    command(ControlAction::SaveProgram);
     prompts.files.push_back(makeFile(QStringLiteral("setup_widget.exe"), 2621440));
     click(u"cmdOpenFileInfo");
     EXPECT_EQ(text(u"txtVersionedFilename"), QStringLiteral("setup_12.exe"));
@@ -78,7 +78,7 @@ TEST_F(ProgramTabTest, ExpiryControlsFollowTheChoice) {
     // Saved with "this date:", the choice comes back as flags and screen state.
     screen().setValue(id(u"chkHasExpiredInfo"), 1);
     screen().setValue(id(u"optExpire", 3), 1);
-    button(4);
+    command(ControlAction::SaveProgram);
     EXPECT_EQ(session->program().number(ProgramField::ExpireBasedOn, 3), -1);
     EXPECT_EQ(session->program().number(ProgramField::ExpireBasedOn, 0), 0);
     EXPECT_EQ(session->program().number(ProgramField::HasExpireInfo), 1);
@@ -89,7 +89,7 @@ TEST_F(ProgramTabTest, ExpiryControlsFollowTheChoice) {
 
 TEST_F(ProgramTabTest, DefaultPermissionTexts) {
     screen().setListIndex(id(u"cboType"), 2); // Freeware
-    button(4);
+    command(ControlAction::SaveProgram);
     click(u"cmdDefaultPermissions", 0);
     EXPECT_EQ(text(u"txtDistributionAgreements"),
               QStringLiteral("You may include WIDGET on any CD compilation.\r\n"
@@ -97,7 +97,7 @@ TEST_F(ProgramTabTest, DefaultPermissionTexts) {
     EXPECT_TRUE(prompts.asked.size() == 2);
 
     screen().setListIndex(id(u"cboType"), 1); // Shareware
-    button(4);
+    command(ControlAction::SaveProgram);
     prompts.yesNo = {false};
     click(u"cmdDefaultPermissions", 0);
     EXPECT_TRUE(prompts.asked.back().startsWith(
@@ -157,7 +157,7 @@ TEST_F(ProgramTabTest, TransferKeepsUnlistedFlagsAndTrims) {
     screen().setItemSelected(id(u"lstSupportedOS"), 10, true);
     type(u"txtAddress1", QStringLiteral("  two blanks  "));
     prompts.yesNo = {true}; // saving the company offers to save the program first
-    button(1);
+    command(ControlAction::SaveCompany);
     ProgramRecord p;
     store.readProgram(1, 1, p);
     for (int i = 0; i < 26; ++i)

@@ -42,7 +42,7 @@ TEST_F(PadCheckCommandsTest, AFindingLeadsToItsField) {
     screen().setValue(id(u"chkActivateLanguage", 3), 1);
     type(u"txt45char", QStringLiteral("a <b> tag"), 3);
     screen().setListIndex(id(u"SSTab2"), 0);
-    button(4);
+    command(ControlAction::SaveProgram);
     screen().setListIndex(id(u"SSTab1"), 0);
     const auto findings = session->pad().checkScreen();
     const PadFinding* description = findingFor(findings, "Char_Desc_45");
@@ -59,7 +59,7 @@ TEST_F(PadCheckCommandsTest, AFindingLeadsToItsField) {
 
     screen().setListIndex(id(u"SSTab1"), 0);
     prompts.inputs.push_back(QStringLiteral("Unsaved Co"));
-    button(0);
+    command(ControlAction::NewCompany);
     PadFinding version;
     version.side = RecordSide::Program;
     version.field = static_cast<int>(ProgramField::ProgramVersion);
@@ -70,16 +70,16 @@ TEST_F(PadCheckCommandsTest, AFindingLeadsToItsField) {
 // Create PAD writes what the author asked for and says afterwards that sites will reject it.
 TEST_F(PadCheckCommandsTest, CreatePadWritesThenTellsOfErrors) {
     type(u"txtProgramVersion", QStringLiteral("1 < 2"));
-    button(4);
+    command(ControlAction::SaveProgram);
     const QString path = home.file(QStringLiteral("rocket.xml"));
     prompts.files.push_back(path);
-    button(7);
+    command(ControlAction::CreatePAD);
     EXPECT_TRUE(readBytes(path).contains("<Program_Version>1 < 2</Program_Version>"));
     EXPECT_TRUE(status().contains(QStringLiteral("Check PAD"))) << status().toStdString();
 
     type(u"txtProgramVersion", QStringLiteral("1.2"));
-    button(4);
+    command(ControlAction::SaveProgram);
     prompts.files.push_back(path);
-    button(7);
+    command(ControlAction::CreatePAD);
     EXPECT_FALSE(status().contains(QStringLiteral("Check PAD")));
 }

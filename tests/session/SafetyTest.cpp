@@ -36,7 +36,7 @@ protected:
 TEST_F(FailedSaveTest, ACompanyThatCannotBeWrittenStaysModified) {
     type(u"txtCity", QStringLiteral("Springfield"));
     blockWrites(QStringLiteral("company.dta"));
-    button(1);
+    command(ControlAction::SaveCompany);
     ASSERT_FALSE(prompts.messages.isEmpty());
     for (const QString& message : prompts.messages)
         EXPECT_TRUE(message.contains(QStringLiteral("could not be saved")))
@@ -56,13 +56,13 @@ TEST_F(FailedSaveTest, ACompanyThatCannotBeWrittenStaysModified) {
 
     // New Company and closing the window do not throw the edit away either.
     prompts.yesNo = {true, true};
-    button(0);
+    command(ControlAction::NewCompany);
     EXPECT_TRUE(prompts.inputs.empty());
     EXPECT_FALSE(session->Shutdown());
     EXPECT_EQ(text(u"txtCity"), QStringLiteral("Springfield"));
 
     allowWrites(QStringLiteral("company.dta"));
-    button(1);
+    command(ControlAction::SaveCompany);
     EXPECT_FALSE(session->state().CompanyDirty);
     EXPECT_FALSE(companySelectorLocked());
     CompanyRecord stored;
@@ -73,16 +73,16 @@ TEST_F(FailedSaveTest, ACompanyThatCannotBeWrittenStaysModified) {
 TEST_F(FailedSaveTest, AProgramThatCannotBeWrittenStaysModified) {
     type(u"txtProgramVersion", QStringLiteral("2.0"));
     blockWrites(QStringLiteral("1.dta"));
-    button(4);
+    command(ControlAction::SaveProgram);
     EXPECT_TRUE(session->state().ProgramDirty);
     EXPECT_FALSE(at(u"cboProgramName").enabled);
     // The save prompt of Create PAD fails too: no file is written.
     prompts.yesNo = {true};
-    button(7);
+    command(ControlAction::CreatePAD);
     EXPECT_EQ(status(), QStringLiteral("You MUST save before you can create your PAD file ..."));
     EXPECT_TRUE(prompts.dialogs.isEmpty());
     allowWrites(QStringLiteral("1.dta"));
-    button(4);
+    command(ControlAction::SaveProgram);
     EXPECT_FALSE(session->state().ProgramDirty);
     EXPECT_TRUE(at(u"cboProgramName").enabled);
 }
@@ -97,7 +97,7 @@ TEST_F(FailedSaveTest, AnImportThatCannotBeWrittenSavesNothing) {
     // Company 3 is new: its program file is 3.dta.
     ASSERT_TRUE(QDir().mkdir(home.file(QStringLiteral("data/3.dta"))));
     prompts.files.push_back(file);
-    click(u"mnuPAD", 8);
+    command(ControlAction::ImportPAD);
     EXPECT_EQ(readBytes(home.file(QStringLiteral("data/company.dta"))), companies);
     ASSERT_FALSE(prompts.messages.isEmpty());
     for (const QString& message : prompts.messages)
@@ -111,7 +111,7 @@ TEST_F(FailedSaveTest, AnImportThatCannotBeWrittenSavesNothing) {
     ASSERT_TRUE(QDir(home.file(QStringLiteral("data/3.dta"))).removeRecursively());
     prompts.yesNo = {false, false};
     prompts.files.push_back(file);
-    click(u"mnuPAD", 8);
+    command(ControlAction::ImportPAD);
     EXPECT_EQ(store.companyNames().value(2), QStringLiteral("Gamma"));
     EXPECT_EQ(RecordStore(home.home()).programNames(3), QStringList{QStringLiteral("Sled")});
 }
@@ -125,7 +125,7 @@ TEST_F(SessionTest, AnImportOffersToSaveTheShownProgramFirst) {
                      "<Program_Name>Other</Program_Name>\r\n");
     prompts.yesNo = {true};
     prompts.files.push_back(file);
-    click(u"mnuPAD", 8);
+    command(ControlAction::ImportPAD);
     EXPECT_EQ(prompts.asked.last(),
               QStringLiteral("Widget Company not saved|Do you want to save Widget?"));
     ProgramRecord saved;

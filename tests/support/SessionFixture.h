@@ -40,25 +40,26 @@ protected:
         screen().setText(id(name, index), t);
     }
     void click(QStringView name, int index = -1) { screen().click(id(name, index)); }
-    void button(int i) { click(u"cmdButton", i); }
+    // A command of the button bar and the menus, as a click on it runs it.
+    CommandResult command(ControlAction action) { return session->trigger(action); }
     QString status() { return text(u"StatusBar1"); }
     QString caption() { return text(u"frmStart"); }
 
     void newCompany(const QString& name) {
         prompts.inputs.push_back(name);
-        button(0);
+        command(ControlAction::NewCompany);
     }
     void newProgram(const QString& name) {
         prompts.inputs.push_back(name);
-        button(3);
+        command(ControlAction::NewProgram);
     }
     void addCompany(const QString& name) {
         newCompany(name);
-        button(1);
+        command(ControlAction::SaveCompany);
     }
     void addProgram(const QString& name) {
         newProgram(name);
-        button(4);
+        command(ControlAction::SaveProgram);
     }
     void selectCompany(int n) { screen().setListIndex(id(u"cboCompanyName"), n - 1); }
     void selectProgram(int n) { screen().setListIndex(id(u"cboProgramName"), n - 1); }

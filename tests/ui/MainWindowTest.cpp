@@ -62,8 +62,12 @@ protected:
     QString status() {
         return window->statusBar()->findChild<QLabel*>(QStringLiteral("StatusText"))->text();
     }
-    void clickButton(int i) {
-        QTest::mouseClick(find<QPushButton>(QStringLiteral("cmdButton_%1").arg(i)), Qt::LeftButton);
+    // Clicks the button of the button bar that runs a command.
+    void clickButton(ControlAction action) {
+        for (const ControlRow& r : mainWindowControls())
+            if (r.action == action && r.place == Place::ButtonBar)
+                return QTest::mouseClick(find<QPushButton>(r.objectName()), Qt::LeftButton);
+        ADD_FAILURE() << "no button runs the command";
     }
     void typeInto(const QString& name, const QString& text) {
         QWidget* w = find(name);
@@ -196,7 +200,7 @@ TEST_F(MainWindowTest, AnEmptyHomeOpensReadyForTheFirstCompany) {
 // command-line tool writes for the same records.
 TEST_F(MainWindowTest, AFirstProductFromNewCompanyToCreatePad) {
     prompts.inputs.push_back(QStringLiteral("Northwind Tools"));
-    clickButton(0);
+    clickButton(ControlAction::NewCompany);
     typeInto(QStringLiteral("txtAddress1"), QStringLiteral("12 Harbour Road"));
     EXPECT_TRUE(window->windowTitle().contains(QStringLiteral("(MODIFIED)")));
     EXPECT_FALSE(find(QStringLiteral("cboCompanyName"))->isEnabled());
@@ -204,14 +208,14 @@ TEST_F(MainWindowTest, AFirstProductFromNewCompanyToCreatePad) {
     EXPECT_EQ(tabs()->currentIndex(), 0);
     EXPECT_EQ(status(), QStringLiteral("Please SAVE your Company Data before you try to add "
                                        "products!"));
-    clickButton(1);
+    clickButton(ControlAction::SaveCompany);
     EXPECT_FALSE(window->windowTitle().contains(QStringLiteral("(MODIFIED)")));
     EXPECT_TRUE(find(QStringLiteral("cboCompanyName"))->isEnabled());
 
     chooseTab(1);
     ASSERT_EQ(tabs()->currentIndex(), 1);
     prompts.inputs.push_back(QStringLiteral("Harbour Notes"));
-    clickButton(3);
+    clickButton(ControlAction::NewProgram);
     typeInto(QStringLiteral("txtProgramVersion"), QStringLiteral("2.4"));
     auto* systems = find<QListWidget>(QStringLiteral("lstSupportedOS"));
     for (int item : {0, 2}) {
@@ -225,12 +229,12 @@ TEST_F(MainWindowTest, AFirstProductFromNewCompanyToCreatePad) {
     chooseTab(2);
     typeInto(QStringLiteral("txt45char_0"), QStringLiteral("Notes that sail"));
     EXPECT_TRUE(status().contains(QStringLiteral("15"))) << status().toStdString();
-    clickButton(4);
+    clickButton(ControlAction::SaveProgram);
     EXPECT_FALSE(window->windowTitle().contains(QStringLiteral("(MODIFIED)")));
 
     const QString padFile = home.file(QStringLiteral("notes.xml"));
     prompts.files.push_back(padFile);
-    clickButton(7);
+    clickButton(ControlAction::CreatePAD);
     QProcess cli;
     cli.start(QStringLiteral(BREVARO_CLI),
               {QStringLiteral("--home"), home.path(), QStringLiteral("pad"), QStringLiteral("-c"),
@@ -246,12 +250,12 @@ TEST_F(MainWindowTest, AFirstProductFromNewCompanyToCreatePad) {
 // that fails leaves the window open and modified.
 TEST_F(MainWindowTest, ClosingAsksForEachModifiedRecordAndAFailedSaveKeepsTheWindow) {
     prompts.inputs.push_back(QStringLiteral("Acme"));
-    clickButton(0);
-    clickButton(1);
+    clickButton(ControlAction::NewCompany);
+    clickButton(ControlAction::SaveCompany);
     chooseTab(1);
     prompts.inputs.push_back(QStringLiteral("Rocket"));
-    clickButton(3);
-    clickButton(4);
+    clickButton(ControlAction::NewProgram);
+    clickButton(ControlAction::SaveProgram);
     open();
     EXPECT_FALSE(window->windowTitle().contains(QStringLiteral("(MODIFIED)")));
 
@@ -337,8 +341,8 @@ TEST_F(MainWindowTest, HelpMenuAndLinksOpenTheirPages) {
 // its field.
 TEST_F(MainWindowTest, CheckPadLeadsFromAFindingToItsField) {
     prompts.inputs.push_back(QStringLiteral("Smith"));
-    clickButton(0);
-    clickButton(1);
+    clickButton(ControlAction::NewCompany);
+    clickButton(ControlAction::SaveCompany);
     typeInto(QStringLiteral("txtCity"), QStringLiteral("Fish & Chips"));
     chooseTab(3);
     window->findChild<QAction*>(QStringLiteral("mnuTools_4"))->trigger();
@@ -363,11 +367,11 @@ TEST_F(MainWindowTest, CheckPadLeadsFromAFindingToItsField) {
 // copying twice in a row, opening a menu over the status text.
 TEST_F(MainWindowTest, WidgetsAndModelStayInStep) {
     prompts.inputs.push_back(QStringLiteral("Acme"));
-    clickButton(0);
-    clickButton(1);
+    clickButton(ControlAction::NewCompany);
+    clickButton(ControlAction::SaveCompany);
     chooseTab(1);
     prompts.inputs.push_back(QStringLiteral("Rocket"));
-    clickButton(3);
+    clickButton(ControlAction::NewProgram);
 
     auto* type = find<QComboBox>(QStringLiteral("cboType"));
     type->setFocus();
