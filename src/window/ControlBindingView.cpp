@@ -60,6 +60,8 @@ ControlBindingView::ControlBindingView(EditingSession& session, QWidget* window)
     , m_window(window) {
     const ScreenModel& screen = session.screen();
     for (int id = 0; id < screen.count(); ++id)
+        createCommand(id);
+    for (int id = 0; id < screen.count(); ++id)
         create(id);
     connect(&session.screen(), &ScreenModel::controlChanged, this, &ControlBindingView::repaint);
     connect(&session.screen(), &ScreenModel::focusRequested, this, [this](int id) {
@@ -109,16 +111,37 @@ QWidget* ControlBindingView::labelFor(int id) {
     return label;
 }
 
+// A command is the first menu entry that runs it; the link entries open each their own page.
+void ControlBindingView::createCommand(int id) {
+    const ControlRow& r = row(id);
+    if (r.widget != WidgetType::MenuItem || r.action == ControlAction::None ||
+        r.action == ControlAction::OpenLink || m_commands.contains(r.action))
+        return;
+    auto* a = new QAction(r.caption, this);
+    a->setObjectName(r.objectName());
+    if (const QString icon = iconPath(r); !icon.isEmpty())
+        a->setIcon(QIcon(icon));
+    connect(a, &QAction::triggered, this, [this, action = r.action] { m_session.trigger(action); });
+    m_commands.insert(r.action, a);
+    m_actions.insert(id, a);
+}
+
 void ControlBindingView::create(int id) {
     const ControlRow& r = row(id);
     m_ids.push_back(id);
+    if (m_actions.contains(id))
+        return;
     if (r.widget == WidgetType::MenuItem || r.widget == WidgetType::MenuSeparator) {
         auto* a = new QAction(r.caption, this);
         a->setObjectName(r.objectName());
         a->setSeparator(r.widget == WidgetType::MenuSeparator);
         if (const QString icon = iconPath(r); !icon.isEmpty())
             a->setIcon(QIcon(icon));
-        connect(a, &QAction::triggered, this, [this, id] { m_session.screen().click(id); });
+        // A second entry of a command (Tools, Submit) runs the command's action.
+        if (QAction* shared = command(r.action))
+            connect(a, &QAction::triggered, shared, &QAction::trigger);
+        else
+            connect(a, &QAction::triggered, this, [this, id] { m_session.screen().click(id); });
         m_actions.insert(id, a);
         return;
     }
@@ -214,7 +237,11 @@ void ControlBindingView::bindUserSignals(int id, QWidget* w) {
             b->setFocus();
         });
     } else if (auto* b = qobject_cast<QAbstractButton*>(w)) {
-        connect(b, &QAbstractButton::clicked, this, [&screen, id] { screen.click(id); });
+        // A button of a command runs the command's action, as its menu entry does.
+        if (QAction* shared = command(row(id).action))
+            connect(b, &QAbstractButton::clicked, shared, &QAction::trigger);
+        else
+            connect(b, &QAbstractButton::clicked, this, [&screen, id] { screen.click(id); });
     } else if (auto* link = qobject_cast<LinkLabelWidget*>(w)) {
         connect(link, &LinkLabelWidget::clicked, this, [&screen, id] { screen.click(id); });
     } else if (row(id).widget == WidgetType::BannerImage) {

@@ -31,6 +31,9 @@ public:
     QWidget* widget(int id) const;
     QWidget* widget(QStringView name, int index = -1) const;
     QAction* action(int id) const;
+    // The one action of a command (New Company, Save Program, Create PAD, ...): the File menu
+    // entry that runs it, which the button bar and the keyboard share; nullptr for none.
+    QAction* command(ControlAction action) const { return m_commands.value(action); }
     const ControlRow& row(int id) const;
     // Every control id, in table order.
     const std::vector<int>& ids() const { return m_ids; }
@@ -45,6 +48,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void createCommand(int id);
     void create(int id);
     void bindUserSignals(int id, QWidget* w);
     void repaint(int id, unsigned what);
@@ -59,6 +63,7 @@ private:
     QHash<int, QWidget*> m_widgets;
     QHash<int, QWidget*> m_labels;
     QHash<int, QAction*> m_actions;
+    QHash<ControlAction, QAction*> m_commands;
     QHash<QWidget*, int> m_idOf;
     QSet<QWidget*> m_hiddenByModel;
     struct Flash {

@@ -196,6 +196,27 @@ TEST_F(MainWindowTest, AnEmptyHomeOpensReadyForTheFirstCompany) {
     EXPECT_EQ(window->size(), QSize(733, 543));
 }
 
+// A command is one action: its File menu entry; the button and a second menu entry run it,
+// and enabling the command enables the button and the entry together.
+TEST_F(MainWindowTest, EachCommandIsOneActionForButtonAndMenus) {
+    QAction* submit = window->view().command(ControlAction::Submit);
+    ASSERT_TRUE(submit);
+    EXPECT_EQ(submit->objectName(), QStringLiteral("mnuPAD_11"));
+    int runs = 0;
+    QObject::connect(submit, &QAction::triggered, [&runs] { ++runs; });
+    session->setCommandHandler(ControlAction::Submit, [] {});
+    clickButton(ControlAction::Submit);
+    window->findChild<QAction*>(QStringLiteral("mnuTools_2"))->trigger();
+    EXPECT_EQ(runs, 2);
+    QAction* save = window->view().command(ControlAction::SaveProgram);
+    session->setCommandEnabled(ControlAction::SaveProgram, false);
+    EXPECT_FALSE(save->isEnabled());
+    EXPECT_FALSE(find(QStringLiteral("cmdButton_4"))->isEnabled());
+    session->setCommandEnabled(ControlAction::SaveProgram, true);
+    EXPECT_TRUE(save->isEnabled());
+    EXPECT_TRUE(find(QStringLiteral("cmdButton_4"))->isEnabled());
+}
+
 // The whole path of a first PAD file, through real widgets: the file written is the one the
 // command-line tool writes for the same records.
 TEST_F(MainWindowTest, AFirstProductFromNewCompanyToCreatePad) {
