@@ -5,10 +5,9 @@
 
 using namespace brevaro;
 
-// The built-in table is the whole TSV: one valid rule per element.
-TEST(PadFieldRules, TableIsComplete) {
+// One valid rule per element, each at the end of its path.
+TEST(PadFieldRules, TableIsWellFormed) {
     const auto& rules = padFieldRules();
-    EXPECT_EQ(rules.size(), 68u);
     QSet<QString> elements;
     for (const auto& rule : rules) {
         EXPECT_TRUE(rule.regex.isValid()) << rule.element.toStdString();
