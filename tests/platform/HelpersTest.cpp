@@ -11,27 +11,14 @@
 
 using namespace brevaro;
 
-TEST(StringHelpers, TrimRemovesBlanksOnly) {
-    EXPECT_EQ(trimBlanks(u"  a b  "), QStringLiteral("a b"));
-    EXPECT_EQ(trimBlanks(u"\tx\r\n "), QStringLiteral("\tx\r\n"));
-    EXPECT_EQ(trimBlanks(u"    "), QString());
-}
-
-TEST(StringHelpers, FindSplitRemove) {
+// Positions count from 1; 0 means not found.
+TEST(StringHelpers, FindFromCountsFromOne) {
     EXPECT_EQ(findFrom(1, u"abcabc", u"bc"), 2);
     EXPECT_EQ(findFrom(3, u"abcabc", u"bc"), 5);
     EXPECT_EQ(findFrom(6, u"abcabc", u"bc"), 0);
     EXPECT_EQ(findFrom(99, u"abc", u"a"), 0);
     EXPECT_EQ(findFrom(0, u"abc", u"a"), 1);
     EXPECT_EQ(findFrom(1, u"abc", u""), 0);
-
-    EXPECT_EQ(
-        splitFields(QStringLiteral("a|b||c"), u"|"),
-        (QStringList{QStringLiteral("a"), QStringLiteral("b"), QString(), QStringLiteral("c")}));
-    EXPECT_EQ(splitFields(QString(), u"|").size(), 1);
-
-    EXPECT_EQ(removeAll(QStringLiteral("a,b,,c"), u","), QStringLiteral("abc"));
-    EXPECT_EQ(removeAll(QStringLiteral("aaa"), u"aa"), QStringLiteral("a"));
 }
 
 TEST(DayNumbers, DifferencesAndForms) {
@@ -41,29 +28,6 @@ TEST(DayNumbers, DifferencesAndForms) {
     EXPECT_EQ(dayNumber(QStringLiteral("yesterday")), 0);
     EXPECT_EQ(dayNumber(QStringLiteral("2024-02-30")), 0);
     EXPECT_EQ(dateText(QDate(2026, 1, 5)), QStringLiteral("2026-01-05"));
-}
-
-TEST(FileHelpers, ExistsCopySize) {
-    QTemporaryDir dir;
-    const QString a = dir.filePath(QStringLiteral("a.bin"));
-    const QString b = dir.filePath(QStringLiteral("b.bin"));
-    EXPECT_FALSE(pathExists(a));
-    EXPECT_TRUE(pathExists(dir.path() + u'/'));
-    EXPECT_EQ(fileSize(a), -1);
-    EXPECT_FALSE(copyFile(a, b));
-    QFile f(a);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("12345");
-    f.close();
-    QFile old(b);
-    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
-    old.write("a longer old file");
-    old.close();
-    EXPECT_TRUE(copyFile(a, b));
-    EXPECT_EQ(fileSize(b), 5);
-    EXPECT_TRUE(fileTimeStamp(b).isValid());
-    EXPECT_TRUE(ensureFolder(dir.filePath(QStringLiteral("x/y"))));
-    EXPECT_TRUE(pathExists(dir.filePath(QStringLiteral("x/y"))));
 }
 
 // Our table agrees with Qt's own codec on every byte, both ways; the five bytes the set leaves

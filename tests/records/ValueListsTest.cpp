@@ -6,23 +6,6 @@
 #include <gtest/gtest.h>
 
 using namespace brevaro;
-using PF = ProgramField;
-
-// The lists keep the published values exactly, odd spellings included: a value "tidied" here
-// would no longer match what PAD files and directories hold.
-TEST(ValueLists, ItemsKeptExactly) {
-    const QStringList& categories = valueListOf(PF::CategoryClass)->items;
-    EXPECT_TRUE(categories.contains(QStringLiteral("Sports ")));
-    EXPECT_FALSE(categories.contains(QStringLiteral("Sports")));
-    EXPECT_TRUE(categories.contains(QStringLiteral("Optimizers & Diagnostics")));
-    EXPECT_EQ(valueListOf(PF::ReleaseDay)->items.at(9), QStringLiteral("09"));
-    EXPECT_EQ(operatingSystemList().at(10), QStringLiteral("Linux"));
-    EXPECT_EQ(languageList().at(6), QStringLiteral("ChineseSimplified"));
-    const QStringList& countries = valueListOf(CompanyField::Country)->items;
-    EXPECT_EQ(countries.indexOf(QStringLiteral("Cote d'Ivoire")), 52);
-    for (const QString& code : valueListOf(PF::CostOtherCode)->items.mid(1))
-        EXPECT_TRUE(code.size() == 3 && code == code.toUpper()) << code.toStdString();
-}
 
 // Every list fills a list control of its field, and every list control of a field has a list:
 // a list keyed to the wrong field would leave a box empty.

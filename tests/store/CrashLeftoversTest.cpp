@@ -83,19 +83,6 @@ TEST(DeletionIntent, DamagedOrForeignIntentsChangeNothing) {
     }
 }
 
-TEST(DeletionIntent, WrittenIntentsReadBack) {
-    DeletionIntent intent;
-    intent.phase = 2;
-    intent.doomedIndex = 3;
-    intent.companyCount = 5;
-    intent.doomedFile = 3;
-    intent.moves = {{4, 3}, {5, 4}};
-    QString why;
-    const auto back = DeletionIntent::parse(intent.toBytes(), &why);
-    ASSERT_TRUE(back) << why.toStdString();
-    EXPECT_EQ(back->toBytes(), intent.toBytes());
-}
-
 // A kill leaves temporary files of unfinished saves and may leave a program file whose company
 // is gone from a cut company file: the next start clears the first and sets the second aside,
 // so that a new company starts without another's programs.
