@@ -37,4 +37,16 @@ inline QStringList words(std::initializer_list<const char*> list) {
     return out;
 }
 
+inline QString word(const char* w) {
+    return QString::fromUtf8(w);
+}
+inline QString word(const QString& w) {
+    return w;
+}
+
+// Runs brevaro-cli on the given home with words given as UTF-8 strings or QStrings.
+template <typename... Words> CliResult run(const TempHome& t, const Words&... w) {
+    return runCliIn(t, QStringList{word(w)...});
+}
+
 } // namespace brevaro::test

@@ -25,11 +25,10 @@ QStringList dataFiles(const TempHome& t) {
 
 } // namespace
 
-// The probe's intents: each command, even list, refuses with one line and leaves every file as
-// it was, including a file two folders above the home.
+// Damaged intents (the store's own tests hold the full set): each command, even list, refuses with
+// one line and leaves every file as it was, including a file two folders above the home.
 TEST(CliHomeSafety, DamagedDeletionIntentIsRefused) {
-    const char* intents[] = {"phase 0\ncompact 0 2\n", "phase 0\ncompact -5 2\n",
-                             "phase 0\ncompact 99 2\n", "phase -2147483648\n",
+    const char* intents[] = {"phase 0\ncompact 99 2\n",
                              "phase 1\ndoom ../../victim.txt\nremove ../../victim.txt\n"};
     for (const char* intent : intents) {
         SCOPED_TRACE(intent);
@@ -57,15 +56,6 @@ TEST(CliHomeSafety, DamagedDeletionIntentIsRefused) {
         EXPECT_EQ(readBytes(victim), QByteArray("keep me"));
         QFile::remove(victim);
     }
-}
-
-// A lock file left empty by a kill does not lock the home for good.
-TEST(CliHomeSafety, EmptyLockLeftByACrashIsTakenOver) {
-    TempHome t;
-    writeBytes(t.home().lockFile(), QByteArray());
-    const CliResult r = runCliIn(t, words({"new-company", "X"}));
-    EXPECT_EQ(r.status, 0) << r.err.toStdString();
-    EXPECT_EQ(r.out, QByteArray("1\n"));
 }
 
 // A reader that comes while another writer deletes a company waits for the deletion and shows
@@ -122,14 +112,4 @@ TEST(CliHomeSafety, DamagedRecordFilesAreReported) {
     EXPECT_EQ(set.status, 2);
     EXPECT_TRUE(set.err.contains(QStringLiteral("far larger"))) << set.err.toStdString();
     EXPECT_EQ(QFileInfo(u.home().programFile(2)).size(), qint64(4) * 1024 * 1024 * 1024);
-}
-
-// A kill leaves temporary files beside the record files; the next writer clears them.
-TEST(CliHomeSafety, StrayTemporaryFilesAreCleared) {
-    TempHome t;
-    twoCompanies(t);
-    writeBytes(t.file(QStringLiteral("data/2.dta.TiBxhS")), "half a save");
-    writeBytes(t.file(QStringLiteral("data/deletion.intent.AseIiT")), "half an intent");
-    ASSERT_EQ(runCliIn(t, words({"new-company", "C"})).status, 0);
-    EXPECT_EQ(dataFiles(t), (QStringList{QStringLiteral("2.dta"), QStringLiteral("company.dta")}));
 }

@@ -85,24 +85,28 @@ TEST(CliInput, PadOutputBesideTheNamedFile) {
     EXPECT_EQ(missing.err.count(u'\n'), 1) << missing.err.toStdString();
 }
 
-// An index beyond any entry is an error, never wrapped onto entry 0; a new name is saved.
+// An index beyond any entry or a number beyond a flag's 16 bits is an error, never wrapped
+// onto entry 0 or onto another number; a new name is saved.
 TEST(CliInput, SetNeverAnswersWrongSilently) {
     TempHome t;
     companyWithProgram(t);
-    ASSERT_EQ(runCliIn(t, words({"set", "-c", "1", "-p", "1", "Keywords[0]=first"})).status, 0);
-    for (const char* bad :
-         {"Keywords[4294967296]=x", "Keywords[99999999999999999999]=x", "Keywords[9]=x"}) {
-        const CliResult r = runCliIn(t, QStringList{QStringLiteral("set"), QStringLiteral("-c"),
-                                                    QStringLiteral("1"), QStringLiteral("-p"),
-                                                    QStringLiteral("1"), QString::fromLatin1(bad)});
+    ASSERT_EQ(run(t, "set", "-c", "1", "-p", "1", "Keywords[0]=first").status, 0);
+    ASSERT_EQ(run(t, "set", "-c", "1", "-p", "1", "OSSupported[26]=32767").status, 0);
+    const QByteArray before = readBytes(t.home().programFile(1));
+    for (const char* bad : {"Keywords[4294967296]=x", "Keywords[99999999999999999999]=x",
+                            "Keywords[9]=x", "OSSupported[26]=32768", "OSSupported[26]=-32769",
+                            "IncludesJavaVM=65536", "OSSupported[1]=65536"}) {
+        const CliResult r = run(t, "set", "-c", "1", "-p", "1", bad);
         EXPECT_EQ(r.status, 2) << bad;
     }
+    EXPECT_EQ(readBytes(t.home().programFile(1)), before);
     EXPECT_EQ(program(t)[QStringLiteral("Keywords")].toArray()[0].toString(),
               QStringLiteral("first"));
+    EXPECT_EQ(program(t)[QStringLiteral("OSSupported")].toArray()[26].toInt(), 32767);
 
-    ASSERT_EQ(runCliIn(t, words({"set", "-c", "1", "-p", "1", "ProgramName=Gadget"})).status, 0);
-    ASSERT_EQ(runCliIn(t, words({"set", "-c", "Acme", "CompanyName=Acme Works"})).status, 0);
-    EXPECT_EQ(runCliIn(t, words({"list"})).out, QByteArray("1\tAcme Works\n\t1\tGadget\t\n"));
+    ASSERT_EQ(run(t, "set", "-c", "1", "-p", "1", "ProgramName=Gadget").status, 0);
+    ASSERT_EQ(run(t, "set", "-c", "Acme", "CompanyName=Acme Works").status, 0);
+    EXPECT_EQ(run(t, "list").out, QByteArray("1\tAcme Works\n\t1\tGadget\t\n"));
 }
 
 // Names are printed with their control characters escaped, so a line stays a line and a column
@@ -127,20 +131,8 @@ TEST(CliOutput, ControlCharactersAreEscaped) {
     EXPECT_TRUE(r.err.startsWith(QStringLiteral("brevaro-cli: ")));
 }
 
-// A character Windows-1252 cannot hold is one "?", even outside the basic plane, and counts
-// as one character of a fixed width.
-TEST(CliInput, EmojiIsOneQuestionMark) {
-    TempHome t;
-    companyWithProgram(t);
-    ASSERT_EQ(runCliIn(t, words({"set", "-c", "1", "-p", "1",
-                                 "ProgramVersion=v\xF0\x9F\x98\x80"
-                                 "2"}))
-                  .status,
-              0);
-    EXPECT_EQ(program(t)[QStringLiteral("ProgramVersion")].toString(), QStringLiteral("v?2"));
-}
-
-// When one of several files cannot be imported, the message says which are in and which not.
+// Import prints company and program of each file; when one of several files cannot be
+// imported, the message says which are in and which not.
 TEST(CliInput, ImportSaysWhichFilesWereDone) {
     TempHome t;
     const QString good = t.file(QStringLiteral("a.xml"));
@@ -148,13 +140,18 @@ TEST(CliInput, ImportSaysWhichFilesWereDone) {
     writeBytes(good, "<?xml version=\"1.0\"?>\r\n<XML_DIZ_INFO><Company_Info><Company_Name>"
                      "Acme</Company_Name></Company_Info><Program_Info><Program_Name>Widget"
                      "</Program_Name></Program_Info></XML_DIZ_INFO>\r\n");
-    writeBytes(bad, "not xml");
-    const CliResult r = runCliIn(t, QStringList{QStringLiteral("import"), good, bad});
+    writeBytes(bad, "<html>not a PAD file</html>");
+    const CliResult twice = run(t, "import", good, good);
+    ASSERT_EQ(twice.status, 0) << twice.err.toStdString();
+    EXPECT_EQ(twice.out, QByteArray("1\t1\n1\t2\n"));
+    const CliResult r = run(t, "import", good, bad);
     EXPECT_EQ(r.status, 2);
-    EXPECT_EQ(r.out, QByteArray("1\t1\n"));
+    EXPECT_EQ(r.out, QByteArray("1\t3\n"));
     EXPECT_TRUE(r.err.contains(QStringLiteral("imported: ") + good)) << r.err.toStdString();
     EXPECT_TRUE(r.err.contains(QStringLiteral("not imported: ") + bad));
-    EXPECT_EQ(runCliIn(t, words({"list"})).out, QByteArray("1\tAcme\n\t1\tWidget\t\n"));
+    EXPECT_TRUE(r.err.contains(QStringLiteral("not a PAD file")));
+    EXPECT_EQ(run(t, "list").out,
+              QByteArray("1\tAcme\n\t1\tWidget\t\n\t2\tWidget\t\n\t3\tWidget\t\n"));
 }
 
 // A command that changes a company and a program writes both files together: when the second

@@ -1,6 +1,5 @@
 #include "CliTestSupport.h"
 #include "FullRecords.h"
-#include "pad/CreatePad.h"
 #include "pad/PadText.h"
 #include "platform/Win1252.h"
 #include "store/RecordStore.h"
@@ -30,11 +29,7 @@ TEST(CliPad, OutputsAreTheBytesTheWindowWrites) {
                                          QStringLiteral("\r\n"))));
 
     const QString file = t.file(QStringLiteral("pad/Out.xml"));
-    ASSERT_EQ(runCliIn(t, QStringList{QStringLiteral("pad"), QStringLiteral("-c"),
-                                      QStringLiteral("1"), QStringLiteral("-p"),
-                                      QStringLiteral("1"), QStringLiteral("-o"), file})
-                  .status,
-              0);
+    ASSERT_EQ(run(t, "pad", "-c", "1", "-p", "1", "-o", file).status, 0);
     EXPECT_EQ(readBytes(file), pad.out);
     const CliResult web = runCliIn(t, words({"webinfo", "-c", "1", "-p", "1"}));
     EXPECT_EQ(readBytes(t.file(QStringLiteral("pad/out.htm"))), web.out);
@@ -44,21 +39,4 @@ TEST(CliPad, OutputsAreTheBytesTheWindowWrites) {
     EXPECT_TRUE(verify.out.startsWith(web.out.left(web.out.size() - 2)));
     EXPECT_TRUE(verify.out.endsWith("<hr>\r\n\r\n"));
     EXPECT_EQ(runCliIn(t, words({"pad", "-c", "1", "-p", "2"})).status, 2);
-}
-
-TEST(CliPad, ImportPrintsWhereTheProgramWent) {
-    TempHome t;
-    const QString good = t.file(QStringLiteral("good.xml"));
-    writeBytes(good, toWin1252(CreatePADText(fullCompany(), fullProgram())));
-    const QString bad = t.file(QStringLiteral("bad.xml"));
-    writeBytes(bad, "<html>not a PAD file</html>");
-    const CliResult first = runCliIn(t, QStringList{QStringLiteral("import"), good, good});
-    ASSERT_EQ(first.status, 0) << first.err.toStdString();
-    EXPECT_EQ(first.out, QByteArray("1\t1\n1\t2\n"));
-    const CliResult refused = runCliIn(t, QStringList{QStringLiteral("import"), bad});
-    EXPECT_EQ(refused.status, 2);
-    EXPECT_TRUE(refused.err.contains(QStringLiteral("not a PAD file")));
-    EXPECT_EQ(
-        runCliIn(t, words({"list"})).out,
-        QByteArray("1\tCompanyName\n\t1\tProgramName\tramVersion\n\t2\tProgramName\tramVersion\n"));
 }
