@@ -55,7 +55,7 @@ int keywordsCommand(CliContext& ctx, const QStringList& words) {
         suggester.checkHomepage();
         failUnlessFetched(http, from);
     }
-    for (const KeywordEntry& e : suggester.list().entries())
+    for (const KeywordEntry& e : suggester.entries())
         ctx.print(escapeControls(e.word) + u'\t' + e.countText() + u'\t' +
                   (e.ticked ? u'1' : u'0') + u'\n');
     ctx.print(QStringLiteral("keywords: ") + escapeControls(suggester.keywords) + u'\n');

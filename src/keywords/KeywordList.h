@@ -1,5 +1,6 @@
 #pragma once
 
+#include "keywords/KeywordEntry.h"
 #include "keywords/WordTally.h"
 #include "platform/LargePageAllocator.h"
 
@@ -8,16 +9,6 @@
 #include <vector>
 
 namespace brevaro {
-
-// One counted word: the word as first met, its count and whether it is ticked.
-struct KeywordEntry {
-    QString word;
-    int count = 0;
-    bool ticked = false;
-
-    // "001" to "999", then "1000" and on.
-    QString countText() const;
-};
 
 // The word list of the keyword suggester. While words are counted the list keeps the order
 // in which they first came, and FindWord, a prefix search, takes the first match in that

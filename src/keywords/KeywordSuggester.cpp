@@ -1,5 +1,7 @@
 #include "keywords/KeywordSuggester.h"
 
+#include "keywords/KeywordList.h"
+
 #include "platform/FileHelpers.h"
 #include "platform/HttpTransfer.h"
 #include "platform/StringHelpers.h"
@@ -8,7 +10,8 @@ namespace brevaro {
 
 KeywordSuggester::KeywordSuggester(HttpTransfer& http, QObject* parent)
     : QObject(parent)
-    , m_http(http) {
+    , m_http(http)
+    , m_list(std::make_unique<KeywordList>()) {
     connect(&m_http, &HttpTransfer::connected, this,
             [this] { simpleText(QStringLiteral("Connected, Wait ...")); });
     connect(&m_http, &HttpTransfer::transferStarted, this,
@@ -32,6 +35,24 @@ KeywordSuggester::KeywordSuggester(const QString& programName, const QString& ho
     url = homePage;
 }
 
+KeywordSuggester::~KeywordSuggester() = default;
+
+std::vector<KeywordEntry> KeywordSuggester::entries() const {
+    return m_list->entries();
+}
+
+int KeywordSuggester::entryCount() const {
+    return m_list->size();
+}
+
+void KeywordSuggester::setTicked(int index, bool ticked) {
+    m_list->setTicked(index, ticked);
+}
+
+void KeywordSuggester::sortByColumn(int column) {
+    m_list->sortByColumn(column);
+}
+
 QString KeywordSuggester::instructions() {
     return QStringLiteral(
         "1. Check Homepage\r\n\r\n2. Most common words are\r\n     suggested for keywords.\r\n\r\n"
@@ -45,7 +66,7 @@ void KeywordSuggester::simpleText(const QString& text) {
 }
 
 void KeywordSuggester::checkHomepage() {
-    m_list.clear();
+    m_list->clear();
     m_buffer.clear();
     m_cancelled = false;
     bytesReceived = 0;
@@ -58,7 +79,7 @@ void KeywordSuggester::checkHomepage() {
 }
 
 void KeywordSuggester::checkPage(const QString& page) {
-    m_list.clear();
+    m_list->clear();
     m_buffer = page;
     count();
 }
@@ -67,15 +88,15 @@ bool KeywordSuggester::checkPageFile(const QString& path, QString* error) {
     ByteBlock bytes;
     if (!readRegularFile(path, HttpTransfer::kMaxBytes, &bytes, error))
         return false;
-    m_list.clear();
+    m_list->clear();
     m_buffer.clear();
-    KeywordCounting counting(m_list, bytes.size());
+    KeywordCounting counting(*m_list, bytes.size());
     decodePageInParts(QByteArrayView(bytes.data(), qsizetype(bytes.size())), QString(),
                       [&](QStringView part) { counting.add(part, pump); });
     counting.finish();
     if (pump)
         pump();
-    m_list.CheckFrequentWords();
+    m_list->CheckFrequentWords();
     rebuild();
     return true;
 }
@@ -85,13 +106,13 @@ void KeywordSuggester::count() {
 }
 
 void KeywordSuggester::count(QStringView text) {
-    m_list.SplitWords(text, pump);
-    m_list.CheckFrequentWords();
+    m_list->SplitWords(text, pump);
+    m_list->CheckFrequentWords();
     rebuild();
 }
 
 void KeywordSuggester::rebuild() {
-    keywords = m_list.RebuildKeywords(keywords);
+    keywords = m_list->RebuildKeywords(keywords);
     emit changed();
 }
 

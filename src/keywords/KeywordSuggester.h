@@ -1,14 +1,17 @@
 #pragma once
 
-#include "keywords/KeywordList.h"
+#include "keywords/KeywordEntry.h"
 
 #include <QObject>
 #include <functional>
+#include <memory>
 #include <optional>
+#include <vector>
 
 namespace brevaro {
 
 class HttpTransfer;
+class KeywordList;
 
 // The keyword suggester without its window: fetches the home page, counts its words, ticks
 // the frequent ones and builds the keywords text that OK copies into the main window.
@@ -19,6 +22,7 @@ public:
     // For a program: the caption names it and the address box holds its home page.
     KeywordSuggester(const QString& programName, const QString& homePage, HttpTransfer& http,
                      QObject* parent = nullptr);
+    ~KeywordSuggester() override;
 
     QString caption;
     QString url;
@@ -28,7 +32,14 @@ public:
     qint64 bytesReceived = 0;
     static QString instructions();
 
-    KeywordList& list() { return m_list; }
+    // The counted words in list order; ticking one; sorting by a column header (0 the word,
+    // 1 the count).
+    std::vector<KeywordEntry> entries() const;
+    int entryCount() const;
+    void setTicked(int index, bool ticked);
+    void sortByColumn(int column);
+    // The list itself, for the keyword code and its tests.
+    KeywordList& list() { return *m_list; }
     const QString& receiveBuffer() const { return m_buffer; }
 
     // Check Homepage: fetch url, count, tick, rebuild.
@@ -56,7 +67,7 @@ private:
     void count(QStringView text);
 
     HttpTransfer& m_http;
-    KeywordList m_list;
+    std::unique_ptr<KeywordList> m_list;
     QString m_buffer;
     bool m_cancelled = false;
 };

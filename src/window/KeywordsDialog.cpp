@@ -103,8 +103,8 @@ KeywordsDialog::KeywordsDialog(KeywordSuggester& suggester, QWidget* parent)
             [this](const QString& t) { m_suggester.keywords = t; });
     connect(m_list, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item, int column) {
         if (column == 0)
-            m_suggester.list().setTicked(m_list->indexOfTopLevelItem(item),
-                                         item->checkState(0) == Qt::Checked);
+            m_suggester.setTicked(m_list->indexOfTopLevelItem(item),
+                                  item->checkState(0) == Qt::Checked);
     });
     connect(m_list->header(), &QHeaderView::sectionClicked, this, &KeywordsDialog::sortBy);
     connect(&m_suggester, &KeywordSuggester::changed, this, &KeywordsDialog::showModel);
@@ -263,7 +263,7 @@ void KeywordsDialog::fillList() {
     const QSignalBlocker block(m_list);
     m_list->clear();
     QList<QTreeWidgetItem*> items;
-    for (const KeywordEntry& e : m_suggester.list().entries()) {
+    for (const KeywordEntry& e : m_suggester.entries()) {
         auto* item = new QTreeWidgetItem(QStringList{e.word, e.countText()});
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(0, e.ticked ? Qt::Checked : Qt::Unchecked);
@@ -275,7 +275,7 @@ void KeywordsDialog::fillList() {
 
 // The word column sorts ascending, the count column by number, highest first.
 void KeywordsDialog::sortBy(int column) {
-    m_suggester.list().sortByColumn(column);
+    m_suggester.sortByColumn(column);
     m_list->header()->setSortIndicator(column,
                                        column == 1 ? Qt::DescendingOrder : Qt::AscendingOrder);
     fillList();

@@ -2,6 +2,7 @@
 // page is also decoded a part at a time and counted in parts cut where the input says, and a
 // short page counted a piece at a time with CountWord: every way must give the same list.
 #include "FuzzSupport.h"
+#include "keywords/KeywordList.h"
 #include "keywords/KeywordSuggester.h"
 #include "platform/HttpTransfer.h"
 

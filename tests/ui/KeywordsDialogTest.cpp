@@ -203,7 +203,7 @@ TEST(KeywordsDialog, CancelDuringASlowTransferStopsItAtOnce) {
     EXPECT_FALSE(http.succeeded());
     EXPECT_TRUE(waitFor([&] { return server.openConnections() == 0; }));
     // What arrived before Cancel is not counted, and the keywords stay as they were.
-    EXPECT_EQ(suggester.list().size(), 0);
+    EXPECT_EQ(suggester.entryCount(), 0);
     EXPECT_EQ(child<QTreeWidget>(dialog, "ListView1")->topLevelItemCount(), 0);
     EXPECT_EQ(suggester.keywords, QStringLiteral("kept, as, typed"));
     EXPECT_EQ(dialog.cursor().shape(), Qt::ArrowCursor);
