@@ -40,7 +40,7 @@ TEST(CliCheck, CleanRecordsPassWithNotesOnly) {
     TempHome t;
     storeClean(t);
     const auto before = homeFiles(t);
-    const CliResult r = runCliIn(t, words({"check", "-c", "1", "-p", "Tidy Notes"}));
+    const CliResult r = run(t, "check", "-c", "1", "-p", "Tidy Notes");
     ASSERT_EQ(r.status, 0) << r.err.toStdString();
     const QStringList lines = QString::fromUtf8(r.out).split(u'\n', Qt::SkipEmptyParts);
     ASSERT_EQ(lines.size(), 1);
@@ -53,7 +53,7 @@ TEST(CliCheck, CleanRecordsPassWithNotesOnly) {
 TEST(CliCheck, ErrorsGiveStatusThreeAndOneLineEach) {
     TempHome t;
     storeClean(t, u"Smith & Sons");
-    const CliResult r = runCliIn(t, words({"check", "-c", "Smith & Sons", "-p", "1"}));
+    const CliResult r = run(t, "check", "-c", "Smith & Sons", "-p", "1");
     EXPECT_EQ(r.status, 3);
     const QStringList lines = QString::fromUtf8(r.out).split(u'\n', Qt::SkipEmptyParts);
     ASSERT_EQ(lines.size(), 2);
@@ -64,7 +64,7 @@ TEST(CliCheck, ErrorsGiveStatusThreeAndOneLineEach) {
     EXPECT_EQ(lines[0].count(u'\t'), 2);
     EXPECT_TRUE(lines[1].startsWith(QStringLiteral("note\t")));
 
-    const CliResult json = runCliIn(t, words({"check", "-c", "1", "-p", "1", "--json"}));
+    const CliResult json = run(t, "check", "-c", "1", "-p", "1", "--json");
     EXPECT_EQ(json.status, 3);
     const QJsonArray array = QJsonDocument::fromJson(json.out).array();
     ASSERT_EQ(array.size(), 2);

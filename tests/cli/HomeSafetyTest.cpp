@@ -14,9 +14,9 @@ namespace {
 
 // Companies A and B; B has the program P.
 void twoCompanies(const TempHome& t) {
-    ASSERT_EQ(runCliIn(t, words({"new-company", "A"})).status, 0);
-    ASSERT_EQ(runCliIn(t, words({"new-company", "B"})).status, 0);
-    ASSERT_EQ(runCliIn(t, words({"new-program", "-c", "B", "P"})).status, 0);
+    ASSERT_EQ(run(t, "new-company", "A").status, 0);
+    ASSERT_EQ(run(t, "new-company", "B").status, 0);
+    ASSERT_EQ(run(t, "new-program", "-c", "B", "P").status, 0);
 }
 
 QStringList dataFiles(const TempHome& t) {
@@ -91,14 +91,14 @@ TEST(CliHomeSafety, DamagedRecordFilesAreReported) {
     TempHome t;
     twoCompanies(t);
     writeBytes(t.home().companyFile(), readBytes(t.home().companyFile()).left(100));
-    const CliResult list = runCliIn(t, words({"list"}));
+    const CliResult list = run(t, "list");
     EXPECT_EQ(list.status, 0);
     EXPECT_TRUE(list.err.startsWith(QStringLiteral("brevaro-cli: warning: ")));
     EXPECT_TRUE(list.err.contains(QStringLiteral("company.dta")));
-    const CliResult created = runCliIn(t, words({"new-company", "New"}));
+    const CliResult created = run(t, "new-company", "New");
     ASSERT_EQ(created.status, 0) << created.err.toStdString();
     EXPECT_TRUE(created.err.contains(QStringLiteral("2.dta.orphaned")));
-    const CliResult after = runCliIn(t, words({"list"}));
+    const CliResult after = run(t, "list");
     EXPECT_EQ(after.out, QByteArray("1\tNew\n"));
     EXPECT_TRUE(QFile::exists(t.file(QStringLiteral("data/2.dta.orphaned"))));
 
@@ -108,7 +108,7 @@ TEST(CliHomeSafety, DamagedRecordFilesAreReported) {
     ASSERT_TRUE(huge.open(QIODevice::ReadWrite));
     ASSERT_TRUE(huge.resize(qint64(4) * 1024 * 1024 * 1024));
     huge.close();
-    const CliResult set = runCliIn(u, words({"set", "-c", "B", "-p", "1", "ProgramVersion=2"}));
+    const CliResult set = run(u, "set", "-c", "B", "-p", "1", "ProgramVersion=2");
     EXPECT_EQ(set.status, 2);
     EXPECT_TRUE(set.err.contains(QStringLiteral("far larger"))) << set.err.toStdString();
     EXPECT_EQ(QFileInfo(u.home().programFile(2)).size(), qint64(4) * 1024 * 1024 * 1024);

@@ -13,12 +13,12 @@ using namespace brevaro::test;
 namespace {
 
 void companyWithProgram(const TempHome& t) {
-    ASSERT_EQ(runCliIn(t, words({"new-company", "Acme"})).status, 0);
-    ASSERT_EQ(runCliIn(t, words({"new-program", "-c", "Acme", "Widget"})).status, 0);
+    ASSERT_EQ(run(t, "new-company", "Acme").status, 0);
+    ASSERT_EQ(run(t, "new-program", "-c", "Acme", "Widget").status, 0);
 }
 
 QJsonObject program(const TempHome& t) {
-    const CliResult r = runCliIn(t, words({"show", "-c", "1", "-p", "1", "--json"}));
+    const CliResult r = run(t, "show", "-c", "1", "-p", "1", "--json");
     EXPECT_EQ(r.status, 0) << r.err.toStdString();
     return QJsonDocument::fromJson(r.out).object()[QStringLiteral("program")].toObject();
 }
@@ -55,8 +55,7 @@ TEST(CliInput, PagesAndListsComeFromRegularFilesOnly) {
     }
     const QString page = t.file(QStringLiteral("page.htm"));
     writeBytes(page, "<html><body>alpha beta alpha</body></html>");
-    const CliResult ok =
-        runCliIn(t, QStringList{QStringLiteral("keywords"), QStringLiteral("--file"), page});
+    const CliResult ok = run(t, "keywords", "--file", page);
     EXPECT_EQ(ok.status, 0) << ok.err.toStdString();
     EXPECT_TRUE(ok.out.contains("beta\t001\t")) << ok.out.toStdString();
 }
@@ -78,9 +77,7 @@ TEST(CliInput, PadOutputBesideTheNamedFile) {
     EXPECT_FALSE(QFile::exists(work + QStringLiteral("/.htm")));
     EXPECT_FALSE(QFile::exists(work + QStringLiteral("/noext")));
     const CliResult missing =
-        runCliIn(t, QStringList{QStringLiteral("pad"), QStringLiteral("-c"), QStringLiteral("1"),
-                                QStringLiteral("-p"), QStringLiteral("1"), QStringLiteral("-o"),
-                                t.file(QStringLiteral("none/w.xml"))});
+        run(t, "pad", "-c", "1", "-p", "1", "-o", t.file(QStringLiteral("none/w.xml")));
     EXPECT_EQ(missing.status, 2);
     EXPECT_EQ(missing.err.count(u'\n'), 1) << missing.err.toStdString();
 }
@@ -114,19 +111,11 @@ TEST(CliInput, SetNeverAnswersWrongSilently) {
 TEST(CliOutput, ControlCharactersAreEscaped) {
     TempHome t;
     companyWithProgram(t);
-    ASSERT_EQ(
-        runCliIn(t, QStringList{QStringLiteral("set"), QStringLiteral("-c"), QStringLiteral("1"),
-                                QStringLiteral("-p"), QStringLiteral("1"),
-                                QStringLiteral("ProgramName=a\nb\tc\x1b[31md\\")})
-            .status,
-        0);
-    EXPECT_EQ(runCliIn(t, words({"list"})).out,
-              QByteArray("1\tAcme\n\t1\ta\\nb\\tc\\x1b[31md\\\\\t\n"));
+    ASSERT_EQ(run(t, "set", "-c", "1", "-p", "1", "ProgramName=a\nb\tc\x1b[31md\\").status, 0);
+    EXPECT_EQ(run(t, "list").out, QByteArray("1\tAcme\n\t1\ta\\nb\\tc\\x1b[31md\\\\\t\n"));
 
     writeBytes(t.file(QStringLiteral("plain")), "x");
-    const CliResult r =
-        runCliIn(t, QStringList{QStringLiteral("--home"), t.file(QStringLiteral("plain")),
-                                QStringLiteral("list")});
+    const CliResult r = run(t, "--home", t.file(QStringLiteral("plain")), "list");
     EXPECT_EQ(r.status, 2);
     EXPECT_TRUE(r.err.startsWith(QStringLiteral("brevaro-cli: ")));
 }
@@ -163,7 +152,7 @@ TEST(CliInput, SetChangesBothFilesOrNeither) {
     // A folder where the new program file would go makes its write fail.
     QDir().mkpath(t.file(QStringLiteral("data/1.dta.pending")));
     const CliResult r =
-        runCliIn(t, words({"set", "-c", "1", "-p", "1", "CityTown=Elsewhere", "ProgramVersion=9"}));
+        run(t, "set", "-c", "1", "-p", "1", "CityTown=Elsewhere", "ProgramVersion=9");
     EXPECT_EQ(r.status, 2);
     EXPECT_TRUE(r.err.startsWith(QStringLiteral("brevaro-cli: the changes could not be saved")))
         << r.err.toStdString();
@@ -177,8 +166,8 @@ TEST(CliInput, NewProgramPrintsNothingWhenItCannotBeSaved) {
     TempHome t;
     companyWithProgram(t);
     QDir().mkpath(t.file(QStringLiteral("data/1.dta.pending")));
-    const CliResult r = runCliIn(t, words({"new-program", "-c", "1", "Second"}));
+    const CliResult r = run(t, "new-program", "-c", "1", "Second");
     EXPECT_EQ(r.status, 2);
     EXPECT_TRUE(r.out.isEmpty()) << r.out.toStdString();
-    EXPECT_EQ(runCliIn(t, words({"list"})).out, QByteArray("1\tAcme\n\t1\tWidget\t\n"));
+    EXPECT_EQ(run(t, "list").out, QByteArray("1\tAcme\n\t1\tWidget\t\n"));
 }

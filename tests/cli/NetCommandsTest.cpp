@@ -11,21 +11,17 @@ TEST(CliNet, KeywordsFromAServerAndAFile) {
     server.route(
         "/", {200, "text/html", "Tools tools TOOLS backup backup backup quick tail", {}, false, 0});
     TempHome t;
-    const CliResult fetched = runCliIn(t, QStringList{QStringLiteral("keywords"), server.url("/")});
+    const CliResult fetched = run(t, "keywords", server.url("/"));
     ASSERT_EQ(fetched.status, 0) << fetched.err.toStdString();
     EXPECT_EQ(
         fetched.out,
         QByteArray("Tools\t003\t1\nbackup\t003\t1\nquick\t001\t0\nkeywords: Tools, backup\n"));
     const QString page = t.file(QStringLiteral("page.html"));
     writeBytes(page, "<p>caf\xE9 caf\xE9 caf\xE9 x");
-    const CliResult fromFile =
-        runCliIn(t, QStringList{QStringLiteral("keywords"), QStringLiteral("--file"), page});
+    const CliResult fromFile = run(t, "keywords", "--file", page);
     EXPECT_EQ(fromFile.out, QByteArray("caf\xC3\xA9\t002\t0\nkeywords: \n"));
-    EXPECT_EQ(
-        runCliIn(t, QStringList{QStringLiteral("keywords"), QStringLiteral("http://127.0.0.1:1/")})
-            .status,
-        2);
-    EXPECT_EQ(runCliIn(t, QStringList{QStringLiteral("keywords")}).status, 1);
+    EXPECT_EQ(run(t, "keywords", "http://127.0.0.1:1/").status, 2);
+    EXPECT_EQ(run(t, "keywords").status, 1);
 }
 
 TEST(CliNet, EncipheredSitesRoundTrip) {
@@ -36,8 +32,7 @@ TEST(CliNet, EncipheredSitesRoundTrip) {
     ASSERT_EQ(enciphered.status, 0) << enciphered.err.toStdString();
     LocalHttpServer server;
     server.route("/list.txt", {200, "text/plain", enciphered.out, {}, false, 0});
-    const CliResult sites =
-        runCliIn(t, QStringList{QStringLiteral("sites"), server.url("/list.txt")});
+    const CliResult sites = run(t, "sites", server.url("/list.txt"));
     ASSERT_EQ(sites.status, 0) << sites.err.toStdString();
     const QList<QByteArray> lines = sites.out.split('\n');
     ASSERT_EQ(lines.size(), 4);

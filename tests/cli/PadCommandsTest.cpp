@@ -23,7 +23,7 @@ void storeFull(const TempHome& t) {
 TEST(CliPad, OutputsAreTheBytesTheWindowWrites) {
     TempHome t;
     storeFull(t);
-    const CliResult pad = runCliIn(t, words({"pad", "-c", "CompanyName", "-p", "ProgramName"}));
+    const CliResult pad = run(t, "pad", "-c", "CompanyName", "-p", "ProgramName");
     ASSERT_EQ(pad.status, 0) << pad.err.toStdString();
     EXPECT_EQ(pad.out, toWin1252(QString(CreatePADText(fullCompany(), fullProgram()) +
                                          QStringLiteral("\r\n"))));
@@ -31,12 +31,12 @@ TEST(CliPad, OutputsAreTheBytesTheWindowWrites) {
     const QString file = t.file(QStringLiteral("pad/Out.xml"));
     ASSERT_EQ(run(t, "pad", "-c", "1", "-p", "1", "-o", file).status, 0);
     EXPECT_EQ(readBytes(file), pad.out);
-    const CliResult web = runCliIn(t, words({"webinfo", "-c", "1", "-p", "1"}));
+    const CliResult web = run(t, "webinfo", "-c", "1", "-p", "1");
     EXPECT_EQ(readBytes(t.file(QStringLiteral("pad/out.htm"))), web.out);
     EXPECT_TRUE(web.out.startsWith("<!-- Created By Brevaro version: "));
 
-    const CliResult verify = runCliIn(t, words({"verify", "-c", "1", "-p", "1"}));
+    const CliResult verify = run(t, "verify", "-c", "1", "-p", "1");
     EXPECT_TRUE(verify.out.startsWith(web.out.left(web.out.size() - 2)));
     EXPECT_TRUE(verify.out.endsWith("<hr>\r\n\r\n"));
-    EXPECT_EQ(runCliIn(t, words({"pad", "-c", "1", "-p", "2"})).status, 2);
+    EXPECT_EQ(run(t, "pad", "-c", "1", "-p", "2").status, 2);
 }

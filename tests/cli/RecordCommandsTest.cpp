@@ -22,23 +22,21 @@ QJsonObject showJson(const TempHome& t, const QStringList& which) {
 
 TEST(CliRecords, CreateSetListShow) {
     TempHome t;
-    EXPECT_EQ(runCliIn(t, words({"new-company", "Acme Tools"})).out, QByteArray("1\n"));
-    EXPECT_EQ(runCliIn(t, words({"new-company", "Other"})).out, QByteArray("2\n"));
-    EXPECT_EQ(runCliIn(t, words({"new-program", "-c", "Acme Tools", "Widget"})).out,
-              QByteArray("1\t1\n"));
-    EXPECT_EQ(runCliIn(t, words({"new-program", "-c", "1", "Gadget"})).status, 0);
+    EXPECT_EQ(run(t, "new-company", "Acme Tools").out, QByteArray("1\n"));
+    EXPECT_EQ(run(t, "new-company", "Other").out, QByteArray("2\n"));
+    EXPECT_EQ(run(t, "new-program", "-c", "Acme Tools", "Widget").out, QByteArray("1\t1\n"));
+    EXPECT_EQ(run(t, "new-program", "-c", "1", "Gadget").status, 0);
     const CliResult set = runCliIn(
         t, words({"set", "-c", "1", "-p", "Widget", "ProgramVersion=1.25", "OSSupported[1]=-1",
                   "Keywords[2]=mots clés", "City=Caf\xC3\xA9 town", "IncludesJavaVM=1"}));
     ASSERT_EQ(set.status, 2) << "City is not a field: nothing may be written";
     EXPECT_TRUE(set.err.startsWith(QStringLiteral("brevaro-cli: ")));
-    ASSERT_EQ(runCliIn(t, words({"set", "-c", "1", "-p", "Widget", "ProgramVersion=1.25",
-                                 "OSSupported[1]=-1", "Keywords[2]=mots cl\xC3\xA9s",
-                                 "CityTown=Caf\xC3\xA9 town", "IncludesJavaVM=1"}))
+    ASSERT_EQ(run(t, "set", "-c", "1", "-p", "Widget", "ProgramVersion=1.25", "OSSupported[1]=-1",
+                  "Keywords[2]=mots cl\xC3\xA9s", "CityTown=Caf\xC3\xA9 town", "IncludesJavaVM=1")
                   .status,
               0);
 
-    EXPECT_EQ(runCliIn(t, words({"list"})).out,
+    EXPECT_EQ(run(t, "list").out,
               QByteArray("1\tAcme Tools\n\t1\tWidget\t1.25\n\t2\tGadget\t\n2\tOther\n"));
 
     const QJsonObject json = showJson(t, words({"-c", "1", "-p", "1"}));
@@ -80,7 +78,7 @@ TEST(CliRecords, DeleteCompaniesAndPrograms) {
 
 TEST(CliRecords, BadInputIsRefusedAndWritesNothing) {
     TempHome t;
-    runCliIn(t, words({"new-company", "A"}));
+    run(t, "new-company", "A");
     const QByteArray before = readBytes(t.file(QStringLiteral("data/company.dta")));
     struct Case {
         QStringList words;
@@ -113,7 +111,7 @@ TEST(CliRecords, LockedHomeIsRefused) {
     HomeLock other(t.home());
     QString message;
     ASSERT_TRUE(other.acquire(&message));
-    const CliResult locked = runCliIn(t, words({"new-company", "A"}));
+    const CliResult locked = run(t, "new-company", "A");
     EXPECT_EQ(locked.status, 2);
     EXPECT_TRUE(locked.err.contains(QStringLiteral("in use")));
     EXPECT_FALSE(QFile::exists(t.file(QStringLiteral("data/company.dta"))));
@@ -121,16 +119,13 @@ TEST(CliRecords, LockedHomeIsRefused) {
 
 TEST(CliRecords, SetFileInfoMeasuresTheDistributionFile) {
     TempHome t;
-    runCliIn(t, words({"new-company", "Acme"}));
-    runCliIn(t, words({"new-program", "-c", "Acme", "Widget"}));
+    run(t, "new-company", "Acme");
+    run(t, "new-program", "-c", "Acme", "Widget");
     const QString setup = t.file(QStringLiteral("setup_widget.exe"));
     writeBytes(setup, QByteArray(2621440, '\x4d'));
     const CliResult r =
-        runCliIn(t, QStringList{QStringLiteral("set"), QStringLiteral("-c"), QStringLiteral("1"),
-                                QStringLiteral("-p"), QStringLiteral("Widget"),
-                                QStringLiteral("ProgramVersion=1.25"),
-                                QStringLiteral("Address1=") + QString(60, u'a'),
-                                QStringLiteral("--file-info"), setup});
+        run(t, "set", "-c", "1", "-p", "Widget", "ProgramVersion=1.25",
+            QString(QStringLiteral("Address1=") + QString(60, u'a')), "--file-info", setup);
     ASSERT_EQ(r.status, 0) << r.err.toStdString();
     const QJsonObject json = showJson(t, words({"-c", "1", "-p", "1"}));
     const QJsonObject p = json[QStringLiteral("program")].toObject();
@@ -145,7 +140,6 @@ TEST(CliRecords, SetFileInfoMeasuresTheDistributionFile) {
     EXPECT_EQ(json[QStringLiteral("company")].toObject()[QStringLiteral("Address1")].toString(),
               QString(30, u'a'));
 
-    const CliResult missing =
-        runCliIn(t, words({"set", "-c", "1", "-p", "1", "--file-info", "/no/such/file"}));
+    const CliResult missing = run(t, "set", "-c", "1", "-p", "1", "--file-info", "/no/such/file");
     EXPECT_EQ(missing.status, 2);
 }
