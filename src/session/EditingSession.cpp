@@ -95,7 +95,7 @@ bool EditingSession::Shutdown() {
 }
 
 void EditingSession::markModified(const ControlRow& control, unsigned event) {
-    if (!(control.markOn & event))
+    if (!(control.markOn & event) || m_loadingRecords > 0)
         return;
     if (control.marks == RecordSide::Company)
         m_navigation.SetCompanyDirty();

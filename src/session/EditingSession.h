@@ -71,6 +71,22 @@ public:
     void beginImport();
     void finishImport(bool accepted);
 
+    // Held while a record is shown from its file: the screen's changes then are not edits,
+    // and nothing is marked modified.
+    class RecordLoad {
+    public:
+        explicit RecordLoad(EditingSession& s)
+            : m_s(s) {
+            ++m_s.m_loadingRecords;
+        }
+        ~RecordLoad() { --m_s.m_loadingRecords; }
+        RecordLoad(const RecordLoad&) = delete;
+        RecordLoad& operator=(const RecordLoad&) = delete;
+
+    private:
+        EditingSession& m_s;
+    };
+
     // Shorthands for the screen model.
     int id(QStringView name, int index = -1) const { return m_screen.id(name, index); }
     void setText(QStringView name, const QString& text, int index = -1) {
@@ -111,6 +127,7 @@ private:
     FieldAssistance m_assistance;
     ProgramTabTools m_programTab;
     PadCommands m_pad;
+    int m_loadingRecords = 0;
 };
 
 } // namespace brevaro

@@ -81,6 +81,7 @@ void ScreenTransfer::screenInto(RecordSide side, FixedRecord& record) const {
 }
 
 void ScreenTransfer::CompanyToScreen() {
+    const EditingSession::RecordLoad loading(m_s);
     forEachControl(RecordSide::Company, [&](int id, const ControlRow& s) {
         recordToScreen(m_s.screen(), id, s, m_s.company());
     });
@@ -110,6 +111,7 @@ void ScreenTransfer::ScreenToProgram() {
 }
 
 void ScreenTransfer::ProgramToScreen() {
+    const EditingSession::RecordLoad loading(m_s);
     forEachControl(RecordSide::Program, [&](int id, const ControlRow& s) {
         recordToScreen(m_s.screen(), id, s, m_s.program());
     });

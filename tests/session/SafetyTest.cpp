@@ -169,6 +169,22 @@ TEST_F(SessionTest, AnEmptyHomeShowsNoCaptionInItsFields) {
     }
 }
 
+// Showing a record from its file is not an edit: nothing is marked modified, whatever the
+// record holds, and an edit afterwards still is.
+TEST_F(SessionTest, ShowingARecordMarksNothing) {
+    addCompany(QStringLiteral("Acme"));
+    addProgram(QStringLiteral("Widget"));
+    session->company().setText(CompanyField::CityTown, QStringLiteral("Springfield"));
+    session->program().setText(ProgramField::ProgramVersion, QStringLiteral("2.0"));
+    session->transfer().CompanyToScreen();
+    session->transfer().ProgramToScreen();
+    EXPECT_EQ(text(u"txtCity"), QStringLiteral("Springfield"));
+    EXPECT_FALSE(session->state().CompanyDirty);
+    EXPECT_FALSE(session->state().ProgramDirty);
+    type(u"txtProgramVersion", QStringLiteral("2.1"));
+    EXPECT_TRUE(session->state().ProgramDirty);
+}
+
 TEST(ScreenModelDeathTest, AControlThatDoesNotExistStopsTheProgram) {
     ScreenModel screen;
     screen.add(QStringLiteral("txtThere"), -1, ControlKind::TextBox);
