@@ -80,6 +80,8 @@ QString excerpt(const QString& value, qsizetype at) {
         .replace(u'\r', u' ');
     if (flat.size() <= kMax)
         return flat;
+    // A CR LF became one blank: the place moves back by one for each before it.
+    at -= value.left(at).count(QStringLiteral("\r\n"));
     const qsizetype from = std::clamp<qsizetype>(at - kMax / 3, 0, flat.size() - kMax);
     return (from > 0 ? QStringLiteral("...") : QString()) + flat.mid(from, kMax) +
            (from + kMax < flat.size() ? QStringLiteral("...") : QString());
@@ -201,7 +203,8 @@ std::vector<PadFinding> xmlTextProblems(const PadWrittenValue& v) {
             break;
         }
         if (kind == BareAmp || kind == Less || kind == Greater)
-            message += QStringLiteral(": \"%1\"").arg(excerpt(escapedText(s), first[kind]));
+            message += QStringLiteral(": \"%1\"")
+                           .arg(excerpt(escapedText(s), escapedText(s.left(first[kind])).size()));
         PadFinding f;
         f.severity = PadFinding::Severity::Error;
         f.element = v.element;

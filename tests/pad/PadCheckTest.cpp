@@ -295,4 +295,13 @@ TEST(PadCheck, FindingsCarryTheFieldAndACutValue) {
     program.setText(PF::CharDesc2000, QString(QString(58, u'x') + QStringLiteral("\r\n&")), 3);
     EXPECT_EQ(withFieldLabels(checkPad(company, program)).front().value,
               QString(58, u'x') + QStringLiteral(" &"));
+    // Line breaks before the "&" do not push it out of the excerpt, nor do the escaped
+    // brackets before it in the message.
+    program.setText(PF::CharDesc2000,
+                    QString(QStringLiteral("a\r\n").repeated(40) + QStringLiteral("<<") +
+                            QString(20, u'x') + QStringLiteral("& tail") + QString(100, u'z')),
+                    3);
+    const PadFinding amp = checkPad(company, program).front();
+    EXPECT_TRUE(amp.value.contains(QStringLiteral("x& tail"))) << amp.value.toStdString();
+    EXPECT_TRUE(amp.message.contains(QStringLiteral("x&amp; tail"))) << amp.message.toStdString();
 }
