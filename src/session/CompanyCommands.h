@@ -7,13 +7,17 @@
 
 namespace brevaro {
 
-class EditingSession;
+struct SessionCore;
+class ProgramCommands;
+class ScreenTransfer;
+class SessionNavigation;
 
 // The company file as the window uses it: reading, listing, creating, saving, finding and
 // deleting companies.
 class CompanyCommands {
 public:
-    CompanyCommands(EditingSession& session, SessionState& state);
+    CompanyCommands(SessionCore& core, SessionNavigation& navigation, ProgramCommands& programs,
+                    ScreenTransfer& transfer);
 
     int GetCompanyCount() const;
     void ReadCurrentCompany();
@@ -32,8 +36,11 @@ public:
     CommandResult DeleteCompany();
 
 private:
-    EditingSession& m_s;
+    SessionCore& m_core;
     SessionState& m_state;
+    SessionNavigation& m_navigation;
+    ProgramCommands& m_programs;
+    ScreenTransfer& m_transfer;
 };
 
 } // namespace brevaro

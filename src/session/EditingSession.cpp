@@ -11,13 +11,15 @@ EditingSession::EditingSession(RecordStore& store, Prompts& prompts, QObject* pa
     , m_store(store)
     , m_prompts(prompts)
     , m_controls(mainWindowControls())
-    , m_navigation(*this, m_state)
-    , m_companies(*this, m_state)
-    , m_programs(*this, m_state)
-    , m_transfer(*this)
-    , m_assistance(*this)
-    , m_programTab(*this)
-    , m_pad(*this) {
+    , m_core{m_screen,  m_controls, m_store, m_prompts,
+             m_company, m_program,  m_state, m_appVersionText}
+    , m_navigation(m_core, m_companies, m_programs, m_transfer)
+    , m_companies(m_core, m_navigation, m_programs, m_transfer)
+    , m_programs(m_core, m_navigation, m_transfer)
+    , m_transfer(m_core)
+    , m_assistance(m_core, m_navigation)
+    , m_programTab(m_core)
+    , m_pad(m_core, m_companies, m_programs, m_transfer, m_navigation) {
     buildScreen();
     m_screen.setEvents(this);
 }
@@ -37,8 +39,7 @@ void EditingSession::buildScreen() {
 }
 
 const ControlRow& EditingSession::row(int id) const {
-    m_screen.at(id); // stops the program for an id that is not a control
-    return m_controls[static_cast<std::size_t>(id)];
+    return m_core.row(id);
 }
 
 void EditingSession::setCommandHandler(ControlAction action, std::function<void()> handler) {
@@ -95,7 +96,7 @@ bool EditingSession::Shutdown() {
 }
 
 void EditingSession::markModified(const ControlRow& control, unsigned event) {
-    if (!(control.markOn & event) || m_loadingRecords > 0)
+    if (!(control.markOn & event) || m_core.loadingRecords > 0)
         return;
     if (control.marks == RecordSide::Company)
         m_navigation.SetCompanyDirty();
@@ -176,9 +177,7 @@ CommandResult EditingSession::trigger(ControlAction action) {
 }
 
 void EditingSession::setCommandEnabled(ControlAction action, bool enabled) {
-    for (std::size_t id = 0; id < m_controls.size(); ++id)
-        if (m_controls[id].action == action)
-            m_screen.setEnabled(static_cast<int>(id), enabled);
+    m_core.setCommandEnabled(action, enabled);
 }
 
 void EditingSession::runAction(const ControlRow& r) {
@@ -276,56 +275,6 @@ void EditingSession::openLink(LinkTarget target) {
     }
     if (!address.isEmpty())
         m_prompts.openDocument(address);
-}
-
-void EditingSession::beginImport() {
-    m_shownBeforeImport = m_company;
-    m_state.ImportInProgress = true;
-    m_transfer.ClearCompanyRecord();
-}
-
-void EditingSession::finishImport(bool accepted) {
-    if (!accepted) {
-        m_company = m_shownBeforeImport;
-        m_state.ImportInProgress = false;
-        return;
-    }
-    saveImported();
-}
-
-// Saves what the import set without reloading the fields over it, then shows the company
-// and the program as a fresh selection would.
-void EditingSession::saveImported() {
-    if (m_state.CurrentCompanyNo >= 1) {
-        m_transfer.ScreenToCompany();
-        if (m_companies.WriteCurrentCompany()) {
-            m_company.trimText(CompanyField::CompanyName);
-            m_navigation.SetCompanyClean();
-            m_state.NewCompanyPending = false;
-        } else {
-            // The write failed and said so: the imported values stay, marked unsaved.
-            m_navigation.SetCompanyDirty();
-        }
-    }
-    if (m_state.CurrentCompanyNo >= 1 && m_state.CurrentProgramNo >= 1) {
-        m_transfer.ScreenToProgram();
-        if (m_programs.WriteCurrentProgram()) {
-            m_navigation.SetProgramClean();
-            m_state.NewProgramPending = false;
-        } else {
-            m_navigation.SetProgramDirty();
-        }
-    }
-    const int company = m_state.CurrentCompanyNo;
-    const int program = m_state.CurrentProgramNo;
-    m_state.ImportInProgress = false;
-    if (m_state.CompanyDirty || m_state.ProgramDirty || company < 1 ||
-        company > m_companies.GetCompanyCount())
-        return;
-    m_screen.setItems(id(u"cboCompanyName"), m_store.companyNames());
-    m_screen.setListIndex(id(u"cboCompanyName"), company - 1);
-    if (program >= 1 && program <= m_screen.at(u"cboProgramName").items.size())
-        m_screen.setListIndex(id(u"cboProgramName"), program - 1);
 }
 
 } // namespace brevaro

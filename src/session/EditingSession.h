@@ -11,6 +11,7 @@
 #include "session/ProgramCommands.h"
 #include "session/ProgramTabTools.h"
 #include "session/ScreenTransfer.h"
+#include "session/SessionCore.h"
 #include "session/SessionNavigation.h"
 #include "session/SessionState.h"
 #include "store/RecordStore.h"
@@ -66,27 +67,6 @@ public:
     // window left open, when a save the user asked for failed.
     bool Shutdown();
 
-    // A PAD import: the save prompts are off while it runs; finishing saves what it set
-    // (accepted) or puts the shown company back (refused).
-    void beginImport();
-    void finishImport(bool accepted);
-
-    // Held while a record is shown from its file: the screen's changes then are not edits,
-    // and nothing is marked modified.
-    class RecordLoad {
-    public:
-        explicit RecordLoad(EditingSession& s)
-            : m_s(s) {
-            ++m_s.m_loadingRecords;
-        }
-        ~RecordLoad() { --m_s.m_loadingRecords; }
-        RecordLoad(const RecordLoad&) = delete;
-        RecordLoad& operator=(const RecordLoad&) = delete;
-
-    private:
-        EditingSession& m_s;
-    };
-
     // Shorthands for the screen model.
     int id(QStringView name, int index = -1) const { return m_screen.id(name, index); }
     void setText(QStringView name, const QString& text, int index = -1) {
@@ -108,7 +88,6 @@ private:
     void runCommand(ControlAction action, const QString& name);
     void markModified(const ControlRow& control, unsigned event);
     void openLink(LinkTarget target);
-    void saveImported();
 
     RecordStore& m_store;
     Prompts& m_prompts;
@@ -118,8 +97,8 @@ private:
     ProgramRecord m_program;
     SessionState m_state;
     QString m_appVersionText;
-    CompanyRecord m_shownBeforeImport;
     std::map<ControlAction, std::function<void()>> m_handlers;
+    SessionCore m_core;
     SessionNavigation m_navigation;
     CompanyCommands m_companies;
     ProgramCommands m_programs;
@@ -127,7 +106,6 @@ private:
     FieldAssistance m_assistance;
     ProgramTabTools m_programTab;
     PadCommands m_pad;
-    int m_loadingRecords = 0;
 };
 
 } // namespace brevaro

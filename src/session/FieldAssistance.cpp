@@ -1,29 +1,31 @@
 #include "session/FieldAssistance.h"
 
 #include "platform/WebAddresses.h"
-#include "session/EditingSession.h"
+#include "session/SessionCore.h"
+#include "session/SessionNavigation.h"
 
 namespace brevaro {
 
-FieldAssistance::FieldAssistance(EditingSession& session)
-    : m_s(session) {}
+FieldAssistance::FieldAssistance(SessionCore& core, SessionNavigation& navigation)
+    : m_core(core)
+    , m_navigation(navigation) {}
 
 QString FieldAssistance::ShowCharCount(const QString& text, int limit) {
     const QString cut = text.size() > limit ? text.left(limit) : text;
-    m_s.navigation().SimpleText(
+    m_navigation.SimpleText(
         QStringLiteral("You have used %1 of %2 characters ...").arg(cut.size()).arg(limit));
     return cut;
 }
 
 int FieldAssistance::selectedLanguage() const {
-    return std::max(0, m_s.screen().at(u"SSTab2").listIndex);
+    return std::max(0, m_core.screen.at(u"SSTab2").listIndex);
 }
 
 // Cuts a field's text at its limit and counts it; on a change the caret goes to the end when
 // the limit is reached, on focus always (txtASP_MemberNo only at the limit).
 void FieldAssistance::limitField(int control, bool onFocus) {
-    const ControlRow& r = m_s.row(control);
-    ScreenModel& screen = m_s.screen();
+    const ControlRow& r = m_core.row(control);
+    ScreenModel& screen = m_core.screen;
     const QString cut = ShowCharCount(screen.at(control).text, r.limit);
     screen.setText(control, cut);
     const bool atLimit = cut.size() == r.limit;
@@ -32,16 +34,16 @@ void FieldAssistance::limitField(int control, bool onFocus) {
 }
 
 void FieldAssistance::showFocusHint(int control) {
-    const ControlRow& r = m_s.row(control);
-    const ControlState& c = m_s.screen().at(control);
+    const ControlRow& r = m_core.row(control);
+    const ControlState& c = m_core.screen.at(control);
     switch (r.hint) {
     case FocusHint::Counter:
         return limitField(control, true);
     case FocusHint::ItemOf:
-        return m_s.navigation().SimpleText(
+        return m_navigation.SimpleText(
             QStringLiteral("Item %1 of %2").arg(c.listIndex + 1).arg(c.items.size()));
     case FocusHint::Text:
-        return m_s.navigation().SimpleText(r.hintText);
+        return m_navigation.SimpleText(r.hintText);
     case FocusHint::None:
         return;
     }
@@ -49,32 +51,33 @@ void FieldAssistance::showFocusHint(int control) {
 
 // The box a button acts on: a fixed box, or (arg 1) the box of the selected language.
 int FieldAssistance::fieldOf(const ControlRow& button) const {
-    return button.arg == 1 ? m_s.id(button.target, selectedLanguage()) : m_s.id(button.target);
+    return button.arg == 1 ? m_core.id(button.target, selectedLanguage())
+                           : m_core.id(button.target);
 }
 
 void FieldAssistance::copyField(const ControlRow& button) {
     const int field = fieldOf(button);
-    Prompts& prompts = m_s.prompts();
+    Prompts& prompts = m_core.prompts;
     prompts.setClipboardText(QString());
-    m_s.screen().flash(field);
-    prompts.setClipboardText(m_s.screen().at(field).text);
+    m_core.screen.flash(field);
+    prompts.setClipboardText(m_core.screen.at(field).text);
     prompts.pumpEvents();
-    m_s.screen().requestFocus(m_s.id(button.name, button.index));
+    m_core.screen.requestFocus(m_core.id(button.name, button.index));
 }
 
 void FieldAssistance::copyDescription(const ControlRow& button) {
     const int lang = selectedLanguage();
-    m_s.setText(button.target, m_s.text(button.source, lang), lang);
+    m_core.setText(button.target, m_core.text(button.source, lang), lang);
 }
 
 void FieldAssistance::translate(const ControlRow& button) {
     const QString source =
-        button.target.isEmpty() ? button.source : m_s.screen().at(fieldOf(button)).text;
-    m_s.prompts().openDocument(translationAddress(source, true));
+        button.target.isEmpty() ? button.source : m_core.screen.at(fieldOf(button)).text;
+    m_core.prompts.openDocument(translationAddress(source, true));
 }
 
 void FieldAssistance::applyKeywords(const QString& keywords) {
-    m_s.setText(u"txtKeywords", keywords, selectedLanguage());
+    m_core.setText(u"txtKeywords", keywords, selectedLanguage());
 }
 
 } // namespace brevaro

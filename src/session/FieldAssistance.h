@@ -4,14 +4,15 @@
 
 namespace brevaro {
 
-class EditingSession;
+struct SessionCore;
+class SessionNavigation;
 struct ControlRow;
 
 // Help while a field is filled: limits and counters, focus hints, copy buttons with their
 // flash, description copies, translation links and the suggested keywords.
 class FieldAssistance {
 public:
-    explicit FieldAssistance(EditingSession& session);
+    FieldAssistance(SessionCore& core, SessionNavigation& navigation);
 
     QString ShowCharCount(const QString& text, int limit);
     // Cuts a field at its limit and counts it (on a change, or on focus).
@@ -27,7 +28,8 @@ public:
 private:
     int fieldOf(const ControlRow& button) const;
 
-    EditingSession& m_s;
+    SessionCore& m_core;
+    SessionNavigation& m_navigation;
 };
 
 } // namespace brevaro

@@ -9,8 +9,12 @@
 #include "platform/FileHelpers.h"
 #include "platform/FileNames.h"
 #include "platform/Win1252.h"
-#include "session/EditingSession.h"
+#include "session/CompanyCommands.h"
+#include "session/ProgramCommands.h"
+#include "session/ScreenTransfer.h"
+#include "session/SessionCore.h"
 #include "session/SessionMessages.h"
+#include "session/SessionNavigation.h"
 
 #include <QDir>
 #include <QSaveFile>
@@ -25,32 +29,34 @@ namespace {
 // option groups apply as they do for typing.
 class ImportOntoScreen : public PadImportTarget {
 public:
-    explicit ImportOntoScreen(EditingSession& s)
-        : m_s(s) {}
+    ImportOntoScreen(SessionCore& core, CompanyCommands& companies, ProgramCommands& programs)
+        : m_core(core)
+        , m_companies(companies)
+        , m_programs(programs) {}
 
     void importCompany(const QString& name) override {
-        const int selector = m_s.id(u"cboCompanyName");
-        if (m_s.companies().FindCompany(name))
-            m_s.screen().setListIndex(selector, m_s.state().CurrentCompanyNo - 1);
+        const int selector = m_core.id(u"cboCompanyName");
+        if (m_companies.FindCompany(name))
+            m_core.screen.setListIndex(selector, m_core.state.CurrentCompanyNo - 1);
         else
-            m_s.companies().CreateCompany(name);
-        m_s.companies().SaveCompany();
-        m_s.screen().setText(selector, name);
+            m_companies.CreateCompany(name);
+        m_companies.SaveCompany();
+        m_core.screen.setText(selector, name);
     }
     void importProgram(const QString& name) override {
-        m_s.programs().CreateProgram(name);
-        m_s.programs().SaveProgram();
-        m_s.screen().setText(m_s.id(u"cboProgramName"), name);
+        m_programs.CreateProgram(name);
+        m_programs.SaveProgram();
+        m_core.screen.setText(m_core.id(u"cboProgramName"), name);
     }
     QString fieldText(RecordSide side, int field, int entry) const override {
-        return m_s.screen().at(control(side, field, entry)).text;
+        return m_core.screen.at(control(side, field, entry)).text;
     }
     void setFieldText(RecordSide side, int field, int entry, const QString& value) override {
-        m_s.screen().setText(control(side, field, entry), value);
+        m_core.screen.setText(control(side, field, entry), value);
     }
     void setFieldFlag(RecordSide side, int field, int entry, bool on) override {
         const int id = control(side, field, entry);
-        ScreenModel& screen = m_s.screen();
+        ScreenModel& screen = m_core.screen;
         if (screen.at(id).kind == ControlKind::ListBox)
             screen.setItemSelected(id, entry, on);
         else
@@ -65,64 +71,71 @@ private:
         return id;
     }
 
-    EditingSession& m_s;
+    SessionCore& m_core;
+    CompanyCommands& m_companies;
+    ProgramCommands& m_programs;
 };
 
 } // namespace
 
-PadCommands::PadCommands(EditingSession& session)
-    : m_s(session) {}
+PadCommands::PadCommands(SessionCore& core, CompanyCommands& companies, ProgramCommands& programs,
+                         ScreenTransfer& transfer, SessionNavigation& navigation)
+    : m_core(core)
+    , m_companies(companies)
+    , m_programs(programs)
+    , m_transfer(transfer)
+    , m_navigation(navigation) {}
 
 CommandResult PadCommands::VerifyPAD() {
-    const QString path = m_s.store().home().verificationPage();
-    const QByteArray page =
-        toWin1252(verificationPage(m_s.company(), m_s.program(), m_s.text(u"lblOrganization", 0)));
+    const QString path = m_core.store.home().verificationPage();
+    const QByteArray page = toWin1252(
+        verificationPage(m_core.company, m_core.program, m_core.text(u"lblOrganization", 0)));
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(page) != page.size() || !file.commit()) {
         const QString message = QStringLiteral("The verification page %1 could not be written: %2")
                                     .arg(path, file.errorString());
-        m_s.prompts().message(QStringLiteral("Verify PAD"), message);
+        m_core.prompts.message(QStringLiteral("Verify PAD"), message);
         return CommandResult::failed(message);
     }
-    m_s.prompts().openDocument(QUrl::fromLocalFile(path).toString());
+    m_core.prompts.openDocument(QUrl::fromLocalFile(path).toString());
     return CommandResult::done();
 }
 
 bool PadCommands::writePadFiles(const QString& path, QString* error) {
-    return brevaro::writePadFiles(m_s.company(), m_s.program(), m_s.text(u"lblOrganization", 0),
-                                  path, error);
+    return brevaro::writePadFiles(m_core.company, m_core.program,
+                                  m_core.text(u"lblOrganization", 0), path, error);
 }
 
 CommandResult PadCommands::CreatePADFile() {
-    m_s.navigation().isCompanyDirty();
-    m_s.navigation().isProgramDirty();
-    if (m_s.state().CompanyDirty || m_s.state().ProgramDirty) {
-        m_s.prompts().beep();
+    m_navigation.isCompanyDirty();
+    m_navigation.isProgramDirty();
+    if (m_core.state.CompanyDirty || m_core.state.ProgramDirty) {
+        m_core.prompts.beep();
         const QString why = QStringLiteral("You MUST save before you can create your PAD file ...");
-        m_s.navigation().SimpleText(why);
+        m_navigation.SimpleText(why);
         return CommandResult::refused(why);
     }
     const QString folder =
-        QDir(m_s.store().home().padFolder())
-            .filePath(safeFolderName(m_s.company().text(CompanyField::CompanyName)));
+        QDir(m_core.store.home().padFolder())
+            .filePath(safeFolderName(m_core.company.text(CompanyField::CompanyName)));
     ensureFolder(folder);
-    const auto chosen = m_s.prompts().saveFile(
-        {proposedPadFileName(m_s.text(u"txtPadXMLfileURL"), m_s.text(u"cboProgramName")),
+    const auto chosen = m_core.prompts.saveFile(
+        {proposedPadFileName(m_core.text(u"txtPadXMLfileURL"), m_core.text(u"cboProgramName")),
          QStringLiteral("xml"), folder, QStringLiteral("PAD File(s) (*.xml)|*.xml")});
     if (!chosen || chosen->isEmpty())
         return CommandResult::declined();
     QString error;
     if (!writePadFiles(QDir::toNativeSeparators(*chosen), &error)) {
-        m_s.prompts().message(QStringLiteral("Create PAD"), error);
+        m_core.prompts.message(QStringLiteral("Create PAD"), error);
         return CommandResult::failed(error);
     }
     // The file is written as asked; what download sites would reject is said afterwards.
-    const auto findings = checkPad(m_s.company(), m_s.program());
+    const auto findings = checkPad(m_core.company, m_core.program);
     const auto errors = std::count_if(findings.begin(), findings.end(), [](const PadFinding& f) {
         return f.severity == PadFinding::Severity::Error;
     });
     if (errors > 0)
-        m_s.navigation().SimpleText(
+        m_navigation.SimpleText(
             QStringLiteral("The PAD file was written, but %1 of its values will make download "
                            "sites reject it: Tools, Check PAD shows where.")
                 .arg(errors));
@@ -130,28 +143,28 @@ CommandResult PadCommands::CreatePADFile() {
 }
 
 std::vector<PadFinding> PadCommands::checkScreen() {
-    CompanyRecord company = m_s.company();
-    ProgramRecord program = m_s.program();
-    m_s.transfer().screenInto(RecordSide::Company, company);
-    m_s.transfer().screenInto(RecordSide::Program, program);
+    CompanyRecord company = m_core.company;
+    ProgramRecord program = m_core.program;
+    m_transfer.screenInto(RecordSide::Company, company);
+    m_transfer.screenInto(RecordSide::Program, program);
     return withFieldLabels(checkPad(company, program));
 }
 
 bool PadCommands::goToField(const PadFinding& finding) {
-    ScreenModel& screen = m_s.screen();
+    ScreenModel& screen = m_core.screen;
     for (int id = 0; id < screen.count(); ++id) {
-        const ControlRow& r = m_s.row(id);
+        const ControlRow& r = m_core.row(id);
         if (r.side != finding.side || r.field != finding.field || r.side == RecordSide::None ||
             (r.entry != finding.entry && r.kind != ControlKind::ListBox))
             continue;
         const int tab = r.place == Place::LanguagePage ? 2 : r.placeIndex;
-        const int tabs = m_s.id(u"SSTab1");
+        const int tabs = m_core.id(u"SSTab1");
         if (screen.at(tabs).listIndex != tab)
             screen.setListIndex(tabs, tab);
         if (screen.at(tabs).listIndex != tab)
             return false;
         if (r.place == Place::LanguagePage)
-            screen.setListIndex(m_s.id(u"SSTab2"), r.index);
+            screen.setListIndex(m_core.id(u"SSTab2"), r.index);
         screen.requestFocus(id);
         return true;
     }
@@ -159,42 +172,92 @@ bool PadCommands::goToField(const PadFinding& finding) {
 }
 
 bool PadCommands::importPadFile(const QString& path) {
-    m_s.beginImport();
-    ImportOntoScreen target(m_s);
-    const bool accepted = ReadPADFile(target, m_s.prompts(), readPadFileText(path));
-    m_s.prompts().pumpEvents();
-    m_s.finishImport(accepted);
+    beginImport();
+    ImportOntoScreen target(m_core, m_companies, m_programs);
+    const bool accepted = ReadPADFile(target, m_core.prompts, readPadFileText(path));
+    m_core.prompts.pumpEvents();
+    finishImport(accepted);
     return accepted;
 }
 
 CommandResult PadCommands::ImportPAD() {
     // The import replaces the fields on screen: what the user changed is offered for saving.
-    if (!m_s.navigation().isCompanyDirty() || !m_s.navigation().isProgramDirty())
-        return CommandResult::failed(m_s.store().errorString());
-    const QString folder = m_s.store().home().padFolder();
+    if (!m_navigation.isCompanyDirty() || !m_navigation.isProgramDirty())
+        return CommandResult::failed(m_core.store.errorString());
+    const QString folder = m_core.store.home().padFolder();
     ensureFolder(folder);
-    const auto chosen = m_s.prompts().openFile(
+    const auto chosen = m_core.prompts.openFile(
         {QString(), QStringLiteral("xml"), folder, QStringLiteral("PAD File(s) (*.xml)|*.xml")});
     if (!chosen || chosen->isEmpty())
         return CommandResult::declined();
     // The company and the program the file holds are saved together or not at all.
-    RecordStore& store = m_s.store();
+    RecordStore& store = m_core.store;
     store.beginBatch();
     const bool accepted = importPadFile(*chosen);
     // A save of the import that failed has said so and left its record modified.
-    const bool savedBoth = !m_s.state().CompanyDirty && !m_s.state().ProgramDirty;
+    const bool savedBoth = !m_core.state.CompanyDirty && !m_core.state.ProgramDirty;
     const bool written = savedBoth && store.commitBatch();
     store.endBatch();
     if (!accepted)
         return CommandResult::refused(QStringLiteral("%1 is not a PAD file").arg(*chosen));
     if (!written) {
-        m_s.navigation().SetCompanyDirty();
-        m_s.navigation().SetProgramDirty();
+        m_navigation.SetCompanyDirty();
+        m_navigation.SetProgramDirty();
         if (savedBoth)
-            return reportWriteFailure(m_s, QStringLiteral("The imported company and program"));
+            return reportWriteFailure(m_core, QStringLiteral("The imported company and program"));
         return CommandResult::failed(store.errorString());
     }
     return CommandResult::done();
+}
+
+void PadCommands::beginImport() {
+    m_shownBeforeImport = m_core.company;
+    m_core.state.ImportInProgress = true;
+    m_transfer.ClearCompanyRecord();
+}
+
+void PadCommands::finishImport(bool accepted) {
+    if (!accepted) {
+        m_core.company = m_shownBeforeImport;
+        m_core.state.ImportInProgress = false;
+        return;
+    }
+    saveImported();
+}
+
+// Saves what the import set without reloading the fields over it, then shows the company
+// and the program as a fresh selection would.
+void PadCommands::saveImported() {
+    if (m_core.state.CurrentCompanyNo >= 1) {
+        m_transfer.ScreenToCompany();
+        if (m_companies.WriteCurrentCompany()) {
+            m_core.company.trimText(CompanyField::CompanyName);
+            m_navigation.SetCompanyClean();
+            m_core.state.NewCompanyPending = false;
+        } else {
+            // The write failed and said so: the imported values stay, marked unsaved.
+            m_navigation.SetCompanyDirty();
+        }
+    }
+    if (m_core.state.CurrentCompanyNo >= 1 && m_core.state.CurrentProgramNo >= 1) {
+        m_transfer.ScreenToProgram();
+        if (m_programs.WriteCurrentProgram()) {
+            m_navigation.SetProgramClean();
+            m_core.state.NewProgramPending = false;
+        } else {
+            m_navigation.SetProgramDirty();
+        }
+    }
+    const int company = m_core.state.CurrentCompanyNo;
+    const int program = m_core.state.CurrentProgramNo;
+    m_core.state.ImportInProgress = false;
+    if (m_core.state.CompanyDirty || m_core.state.ProgramDirty || company < 1 ||
+        company > m_companies.GetCompanyCount())
+        return;
+    m_core.screen.setItems(m_core.id(u"cboCompanyName"), m_core.store.companyNames());
+    m_core.screen.setListIndex(m_core.id(u"cboCompanyName"), company - 1);
+    if (program >= 1 && program <= m_core.screen.at(u"cboProgramName").items.size())
+        m_core.screen.setListIndex(m_core.id(u"cboProgramName"), program - 1);
 }
 
 } // namespace brevaro

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pad/PadCheck.h"
+#include "records/CompanyRecord.h"
 #include "session/CommandResult.h"
 
 #include <QString>
@@ -8,12 +9,17 @@
 
 namespace brevaro {
 
-class EditingSession;
+struct SessionCore;
+class CompanyCommands;
+class ProgramCommands;
+class ScreenTransfer;
+class SessionNavigation;
 
 // The PAD commands of the window: Verify PAD, Create PAD and Import PAD.
 class PadCommands {
 public:
-    explicit PadCommands(EditingSession& session);
+    PadCommands(SessionCore& core, CompanyCommands& companies, ProgramCommands& programs,
+                ScreenTransfer& transfer, SessionNavigation& navigation);
 
     // Writes temp1.htm in the home and opens it.
     CommandResult VerifyPAD();
@@ -33,7 +39,19 @@ public:
     bool goToField(const PadFinding& finding);
 
 private:
-    EditingSession& m_s;
+    // A PAD import: the save prompts are off while it runs; finishing saves what it set
+    // (accepted) or puts the shown company back (refused).
+    void beginImport();
+    void finishImport(bool accepted);
+    // Saves what the import set without reloading the fields over it.
+    void saveImported();
+
+    SessionCore& m_core;
+    CompanyCommands& m_companies;
+    ProgramCommands& m_programs;
+    ScreenTransfer& m_transfer;
+    SessionNavigation& m_navigation;
+    CompanyRecord m_shownBeforeImport;
 };
 
 } // namespace brevaro

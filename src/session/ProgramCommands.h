@@ -7,12 +7,14 @@
 
 namespace brevaro {
 
-class EditingSession;
+struct SessionCore;
+class ScreenTransfer;
+class SessionNavigation;
 
 // The current company's program file as the window uses it.
 class ProgramCommands {
 public:
-    ProgramCommands(EditingSession& session, SessionState& state);
+    ProgramCommands(SessionCore& core, SessionNavigation& navigation, ScreenTransfer& transfer);
 
     QString ProgramFileName();
     int GetProgramCount();
@@ -33,8 +35,10 @@ public:
 private:
     int companyId() const;
 
-    EditingSession& m_s;
+    SessionCore& m_core;
     SessionState& m_state;
+    SessionNavigation& m_navigation;
+    ScreenTransfer& m_transfer;
 };
 
 } // namespace brevaro

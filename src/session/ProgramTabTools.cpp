@@ -1,6 +1,6 @@
 #include "session/ProgramTabTools.h"
 
-#include "session/EditingSession.h"
+#include "session/SessionCore.h"
 
 #include "platform/FileHelpers.h"
 #include "platform/FileNames.h"
@@ -29,15 +29,15 @@ QString megabytes(qint64 bytes) {
 
 } // namespace
 
-ProgramTabTools::ProgramTabTools(EditingSession& session)
-    : m_s(session) {}
+ProgramTabTools::ProgramTabTools(SessionCore& core)
+    : m_core(core) {}
 
 void ProgramTabTools::openFileInfo() {
     const QString folder =
-        QDir(m_s.store().home().padFolder())
-            .filePath(safeFolderName(m_s.company().text(CompanyField::CompanyName)));
+        QDir(m_core.store.home().padFolder())
+            .filePath(safeFolderName(m_core.company.text(CompanyField::CompanyName)));
     ensureFolder(folder);
-    const auto chosen = m_s.prompts().openFile(
+    const auto chosen = m_core.prompts.openFile(
         {QString(), QStringLiteral("exe"), folder,
          QStringLiteral("Program File(s) (*.exe)|*.exe| Program File(s) (*.zip)|*.zip| All "
                         "File(s) (*.*)|*.*|")});
@@ -48,57 +48,57 @@ void ProgramTabTools::openFileInfo() {
     const QString base = GetFileBaseName(title, QStringLiteral("\\"));
     const QString extension = GetFileExtension(title);
     const QString name6 = base.left(6);
-    const QString ver2 = removeAll(m_s.text(u"txtProgramVersion"), u".").left(2);
-    m_s.setText(u"txtVersionedFilename", name6 + ver2 + u'.' + extension);
-    m_s.setText(u"txtPreviousFilename", name6 + ver2 + u'.' + extension);
-    m_s.setText(u"txtGenericFilename", name6 + u'.' + extension);
-    m_s.setText(u"txtLongFilename", title);
-    m_s.setText(u"txtSizeByte", QString::number(length));
-    m_s.setText(u"txtSizeKB", kilobytes(length));
-    m_s.setText(u"txtSizeMB", megabytes(length));
+    const QString ver2 = removeAll(m_core.text(u"txtProgramVersion"), u".").left(2);
+    m_core.setText(u"txtVersionedFilename", name6 + ver2 + u'.' + extension);
+    m_core.setText(u"txtPreviousFilename", name6 + ver2 + u'.' + extension);
+    m_core.setText(u"txtGenericFilename", name6 + u'.' + extension);
+    m_core.setText(u"txtLongFilename", title);
+    m_core.setText(u"txtSizeByte", QString::number(length));
+    m_core.setText(u"txtSizeKB", kilobytes(length));
+    m_core.setText(u"txtSizeMB", megabytes(length));
 }
 
 void ProgramTabTools::expiryCheckClicked() {
-    const int after = m_s.id(u"txtExpireAfter");
+    const int after = m_core.id(u"txtExpireAfter");
     auto toggle = [&](int control) {
-        m_s.screen().setEnabled(control, !m_s.screen().at(control).enabled);
+        m_core.screen.setEnabled(control, !m_core.screen.at(control).enabled);
     };
     toggle(after);
     for (int i = 0; i < 4; ++i)
-        toggle(m_s.id(u"optExpire", i));
+        toggle(m_core.id(u"optExpire", i));
     auto enableDates = [&](bool on) {
         for (auto name : {u"cboExpireMonth", u"cboExpireDay", u"cboExpireYear"})
-            m_s.screen().setEnabled(m_s.id(name), on);
+            m_core.screen.setEnabled(m_core.id(name), on);
     };
-    if (m_s.screen().value(u"chkHasExpiredInfo") == 0) {
-        m_s.screen().setEnabled(after, false);
+    if (m_core.screen.value(u"chkHasExpiredInfo") == 0) {
+        m_core.screen.setEnabled(after, false);
         enableDates(false);
-        m_s.screen().setEnabled(m_s.id(u"txtExpireInfo"), false);
+        m_core.screen.setEnabled(m_core.id(u"txtExpireInfo"), false);
         return;
     }
-    if (m_s.screen().value(u"optExpire", 0) || m_s.screen().value(u"optExpire", 1) ||
-        m_s.screen().value(u"optExpire", 2)) {
-        m_s.screen().setEnabled(after, true);
+    if (m_core.screen.value(u"optExpire", 0) || m_core.screen.value(u"optExpire", 1) ||
+        m_core.screen.value(u"optExpire", 2)) {
+        m_core.screen.setEnabled(after, true);
         enableDates(false);
-        m_s.screen().setEnabled(m_s.id(u"txtExpireInfo"), true);
+        m_core.screen.setEnabled(m_core.id(u"txtExpireInfo"), true);
     }
-    if (m_s.screen().value(u"optExpire", 3)) {
-        m_s.screen().setEnabled(after, false);
+    if (m_core.screen.value(u"optExpire", 3)) {
+        m_core.screen.setEnabled(after, false);
         enableDates(true);
-        m_s.screen().setEnabled(m_s.id(u"txtExpireInfo"), true);
+        m_core.screen.setEnabled(m_core.id(u"txtExpireInfo"), true);
     }
 }
 
 void ProgramTabTools::expiryOptionClicked(int i) {
     const bool byDate = i == 3;
-    m_s.screen().setEnabled(m_s.id(u"txtExpireAfter"), !byDate);
+    m_core.screen.setEnabled(m_core.id(u"txtExpireAfter"), !byDate);
     for (auto name : {u"cboExpireMonth", u"cboExpireDay", u"cboExpireYear"})
-        m_s.screen().setEnabled(m_s.id(name), byDate);
+        m_core.screen.setEnabled(m_core.id(name), byDate);
 }
 
 QString ProgramTabTools::defaultText(int which) const {
-    CompanyRecord company = m_s.company();
-    ProgramRecord program = m_s.program();
+    CompanyRecord company = m_core.company;
+    ProgramRecord program = m_core.program;
     const QString p = program.trimText(ProgramField::ProgramName).toUpper();
     if (which == 0)
         return defaultDistributionText(p, program.trimText(ProgramField::ProgramType).toUpper());
@@ -106,26 +106,26 @@ QString ProgramTabTools::defaultText(int which) const {
 }
 
 void ProgramTabTools::insertDefaultText(int which, const QString& box) {
-    if (!m_s.text(box).isEmpty() &&
-        !m_s.prompts().askYesNo(
+    if (!m_core.text(box).isEmpty() &&
+        !m_core.prompts.askYesNo(
             QStringLiteral("Set Default Text"),
             QStringLiteral("Your current text will be lost!\nDo you want to continue?"),
             Prompts::Icon::Stop))
         return;
-    m_s.company().trimText(CompanyField::CompanyName);
-    m_s.program().trimText(ProgramField::ProgramName);
-    m_s.program().trimText(ProgramField::ProgramType);
-    m_s.setText(box, defaultText(which));
+    m_core.company.trimText(CompanyField::CompanyName);
+    m_core.program.trimText(ProgramField::ProgramName);
+    m_core.program.trimText(ProgramField::ProgramType);
+    m_core.setText(box, defaultText(which));
 }
 
 void ProgramTabTools::loadText(const QString& box) {
-    const QString loaded = ReadTextFileDialog(m_s.prompts(), m_s.store().home().root());
+    const QString loaded = ReadTextFileDialog(m_core.prompts, m_core.store.home().root());
     if (!loaded.isEmpty())
-        m_s.setText(box, loaded);
+        m_core.setText(box, loaded);
 }
 
 void ProgramTabTools::saveText(const QString& box) {
-    WriteTextFileDialog(m_s.prompts(), m_s.store().home().root(), m_s.text(box));
+    WriteTextFileDialog(m_core.prompts, m_core.store.home().root(), m_core.text(box));
 }
 
 } // namespace brevaro

@@ -4,13 +4,13 @@
 
 namespace brevaro {
 
-class EditingSession;
+struct SessionCore;
 
 // The helpers of the Program Info and Permissions tabs: file names and sizes from the
 // distribution file, the expiry group, the default texts and their text files.
 class ProgramTabTools {
 public:
-    explicit ProgramTabTools(EditingSession& session);
+    explicit ProgramTabTools(SessionCore& core);
 
     void openFileInfo();
     void expiryCheckClicked();
@@ -22,7 +22,7 @@ public:
     void saveText(const QString& box);
 
 private:
-    EditingSession& m_s;
+    SessionCore& m_core;
 };
 
 } // namespace brevaro

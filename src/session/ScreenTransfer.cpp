@@ -1,19 +1,19 @@
 #include "session/ScreenTransfer.h"
 
 #include "platform/WebAddresses.h"
-#include "session/EditingSession.h"
+#include "session/SessionCore.h"
 
 #include "records/ValueLists.h"
 
 namespace brevaro {
 
-ScreenTransfer::ScreenTransfer(EditingSession& session)
-    : m_s(session) {}
+ScreenTransfer::ScreenTransfer(SessionCore& core)
+    : m_core(core) {}
 
 template <typename Fn> void ScreenTransfer::forEachControl(RecordSide side, Fn fn) {
-    for (int i = 0; i < m_s.screen().count(); ++i)
-        if (m_s.row(i).side == side)
-            fn(i, m_s.row(i));
+    for (int i = 0; i < m_core.screen.count(); ++i)
+        if (m_core.row(i).side == side)
+            fn(i, m_core.row(i));
 }
 
 namespace {
@@ -68,22 +68,22 @@ void recordToScreen(ScreenModel& screen, int id, const ControlRow& s, FixedRecor
 } // namespace
 
 void ScreenTransfer::ScreenToCompany() {
-    m_s.company().setNumber(CompanyField::CompanyID, m_s.state().CurrentCompanyNo);
+    m_core.company.setNumber(CompanyField::CompanyID, m_core.state.CurrentCompanyNo);
     forEachControl(RecordSide::Company, [&](int id, const ControlRow& s) {
-        screenToRecord(m_s.screen(), id, s, m_s.company());
+        screenToRecord(m_core.screen, id, s, m_core.company);
     });
 }
 
 void ScreenTransfer::screenInto(RecordSide side, FixedRecord& record) const {
-    for (int i = 0; i < m_s.screen().count(); ++i)
-        if (m_s.row(i).side == side)
-            screenToRecord(m_s.screen(), i, m_s.row(i), record);
+    for (int i = 0; i < m_core.screen.count(); ++i)
+        if (m_core.row(i).side == side)
+            screenToRecord(m_core.screen, i, m_core.row(i), record);
 }
 
 void ScreenTransfer::CompanyToScreen() {
-    const EditingSession::RecordLoad loading(m_s);
+    const SessionCore::RecordLoad loading(m_core);
     forEachControl(RecordSide::Company, [&](int id, const ControlRow& s) {
-        recordToScreen(m_s.screen(), id, s, m_s.company());
+        recordToScreen(m_core.screen, id, s, m_core.company);
     });
 }
 
@@ -92,28 +92,29 @@ void ScreenTransfer::ClearCompanyScreen() {
         if (s.name == QLatin1String("cboCompanyName"))
             return;
         if (s.name == QLatin1String("cboCountry"))
-            m_s.screen().setListIndex(id, 0);
+            m_core.screen.setListIndex(id, 0);
         else
-            m_s.screen().setText(id, QString());
+            m_core.screen.setText(id, QString());
     });
 }
 
 void ScreenTransfer::EnableCompanyFields(bool enabled) {
     forEachControl(RecordSide::Company,
-                   [&](int id, const ControlRow&) { m_s.screen().setEnabled(id, enabled); });
+                   [&](int id, const ControlRow&) { m_core.screen.setEnabled(id, enabled); });
 }
 
 void ScreenTransfer::ScreenToProgram() {
-    m_s.program().setNumber(ProgramField::CompanyID, m_s.company().number(CompanyField::CompanyID));
+    m_core.program.setNumber(ProgramField::CompanyID,
+                             m_core.company.number(CompanyField::CompanyID));
     forEachControl(RecordSide::Program, [&](int id, const ControlRow& s) {
-        screenToRecord(m_s.screen(), id, s, m_s.program());
+        screenToRecord(m_core.screen, id, s, m_core.program);
     });
 }
 
 void ScreenTransfer::ProgramToScreen() {
-    const EditingSession::RecordLoad loading(m_s);
+    const SessionCore::RecordLoad loading(m_core);
     forEachControl(RecordSide::Program, [&](int id, const ControlRow& s) {
-        recordToScreen(m_s.screen(), id, s, m_s.program());
+        recordToScreen(m_core.screen, id, s, m_core.program);
     });
 }
 
@@ -121,41 +122,41 @@ void ScreenTransfer::ClearProgramScreen() {
     forEachControl(RecordSide::Program, [&](int id, const ControlRow& s) {
         switch (s.kind) {
         case ControlKind::TextBox:
-            m_s.screen().setText(id, QString());
+            m_core.screen.setText(id, QString());
             break;
         case ControlKind::ComboBox:
             if (s.name != QLatin1String("cboProgramName"))
-                m_s.screen().setText(id, QString());
+                m_core.screen.setText(id, QString());
             break;
         case ControlKind::ListBox:
-            for (int i = 0; i < m_s.screen().at(id).items.size(); ++i)
-                m_s.screen().setItemSelected(id, i, false);
+            for (int i = 0; i < m_core.screen.at(id).items.size(); ++i)
+                m_core.screen.setItemSelected(id, i, false);
             break;
         case ControlKind::CheckBox:
         case ControlKind::OptionButton:
-            m_s.screen().setValue(id, 0);
+            m_core.screen.setValue(id, 0);
             break;
         default:
             break;
         }
     });
-    m_s.screen().setValue(m_s.id(u"chkActivateLanguage", 0), 1);
+    m_core.screen.setValue(m_core.id(u"chkActivateLanguage", 0), 1);
 }
 
 void ScreenTransfer::EnableProgramFields(bool enabled) {
     forEachControl(RecordSide::Program, [&](int id, const ControlRow& s) {
         if (!isExpiryGroup(s))
-            m_s.screen().setEnabled(id, enabled);
+            m_core.screen.setEnabled(id, enabled);
     });
-    const bool expiry = enabled && m_s.screen().value(u"chkHasExpiredInfo") == 1;
+    const bool expiry = enabled && m_core.screen.value(u"chkHasExpiredInfo") == 1;
     forEachControl(RecordSide::Program, [&](int id, const ControlRow& s) {
         if (isExpiryGroup(s))
-            m_s.screen().setEnabled(id, expiry);
+            m_core.screen.setEnabled(id, expiry);
     });
 }
 
 void ScreenTransfer::LoadValueLists() {
-    ScreenModel& screen = m_s.screen();
+    ScreenModel& screen = m_core.screen;
     for (const ValueList& list : valueLists()) {
         const int control = controlOfField(list.side, list.field);
         if (list.clearFirst || screen.at(control).items.isEmpty())
@@ -169,22 +170,22 @@ void ScreenTransfer::LoadValueLists() {
 }
 
 void ScreenTransfer::SetToolTips() {
-    ScreenModel& screen = m_s.screen();
+    ScreenModel& screen = m_core.screen;
     for (int i = 0; i < screen.count(); ++i)
-        if (!m_s.row(i).toolTip.isEmpty())
-            screen.setToolTip(i, m_s.row(i).toolTip);
-    screen.setCaption(m_s.id(u"lblCopyright"), copyrightLine());
+        if (!m_core.row(i).toolTip.isEmpty())
+            screen.setToolTip(i, m_core.row(i).toolTip);
+    screen.setCaption(m_core.id(u"lblCopyright"), copyrightLine());
     for (int i = 0; i < 3; ++i)
-        screen.setCaption(m_s.id(u"lblOrganization", i), organizationSite(i));
+        screen.setCaption(m_core.id(u"lblOrganization", i), organizationSite(i));
 }
 
 void ScreenTransfer::ClearCompanyRecord() {
-    m_s.company().clear();
+    m_core.company.clear();
 }
 
 void ScreenTransfer::ClearProgramRecord() {
-    m_s.program().clear(static_cast<int>(m_s.screen().at(u"lstSupportedOS").items.size()),
-                        static_cast<int>(m_s.screen().at(u"lstLanguages").items.size()));
+    m_core.program.clear(static_cast<int>(m_core.screen.at(u"lstSupportedOS").items.size()),
+                         static_cast<int>(m_core.screen.at(u"lstLanguages").items.size()));
 }
 
 } // namespace brevaro

@@ -5,14 +5,14 @@
 
 namespace brevaro {
 
-class EditingSession;
+struct SessionCore;
 struct ControlRow;
 
 // Copies between the two current records and the controls that show them, clears and
 // enables the controls, and fills the value lists and tooltips: loops over the control table.
 class ScreenTransfer {
 public:
-    explicit ScreenTransfer(EditingSession& session);
+    explicit ScreenTransfer(SessionCore& core);
 
     void ScreenToCompany();
     // What the screen shows of one record, copied into record (the session's records stay).
@@ -32,7 +32,7 @@ public:
 private:
     template <typename Fn> void forEachControl(RecordSide side, Fn fn);
 
-    EditingSession& m_s;
+    SessionCore& m_core;
 };
 
 } // namespace brevaro

@@ -6,14 +6,14 @@
 
 namespace brevaro {
 
-class EditingSession;
+struct SessionCore;
 
 // The questions and messages that the record commands share.
-bool confirmDelete(EditingSession& session, const QString& name);
+bool confirmDelete(SessionCore& session, const QString& name);
 // The user is told that a deletion failed; the failed result carries the store's reason.
-CommandResult reportDeleteFailure(EditingSession& session, const QString& name);
+CommandResult reportDeleteFailure(SessionCore& session, const QString& name);
 // A record could not be written: the user is told, and the edits stay on screen; the failed
 // result carries the store's reason.
-CommandResult reportWriteFailure(EditingSession& session, const QString& what);
+CommandResult reportWriteFailure(SessionCore& session, const QString& what);
 
 } // namespace brevaro

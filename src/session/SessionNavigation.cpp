@@ -2,7 +2,10 @@
 
 #include "AppVersion.h"
 #include "platform/StringHelpers.h"
-#include "session/EditingSession.h"
+#include "session/CompanyCommands.h"
+#include "session/ProgramCommands.h"
+#include "session/ScreenTransfer.h"
+#include "session/SessionCore.h"
 
 namespace brevaro {
 
@@ -10,31 +13,35 @@ namespace {
 const QString kModified = QStringLiteral(" (MODIFIED) ");
 }
 
-SessionNavigation::SessionNavigation(EditingSession& session, SessionState& state)
-    : m_s(session)
-    , m_state(state) {}
+SessionNavigation::SessionNavigation(SessionCore& core, CompanyCommands& companies,
+                                     ProgramCommands& programs, ScreenTransfer& transfer)
+    : m_core(core)
+    , m_state(core.state)
+    , m_companies(companies)
+    , m_programs(programs)
+    , m_transfer(transfer) {}
 
 bool SessionNavigation::isCompanyDirty() {
     if (!m_state.CompanyDirty || m_state.ImportInProgress)
         return true;
-    const QString name = m_s.company().trimText(CompanyField::CompanyName);
-    if (!m_s.prompts().askYesNo(name + QStringLiteral(" not saved"),
-                                QStringLiteral("Do you want to save ") + name + u'?',
-                                Prompts::Icon::Question))
+    const QString name = m_core.company.trimText(CompanyField::CompanyName);
+    if (!m_core.prompts.askYesNo(name + QStringLiteral(" not saved"),
+                                 QStringLiteral("Do you want to save ") + name + u'?',
+                                 Prompts::Icon::Question))
         return true;
-    return m_s.companies().SaveCompany().isDone();
+    return m_companies.SaveCompany().isDone();
 }
 
 bool SessionNavigation::isProgramDirty() {
     if (!m_state.ProgramDirty || m_state.ImportInProgress)
         return true;
-    const QString name = m_s.program().trimText(ProgramField::ProgramName);
-    if (!m_s.prompts().askYesNo(name + QStringLiteral(" Company not saved"),
-                                QStringLiteral("Do you want to save ") + name + u'?',
-                                Prompts::Icon::Question))
+    const QString name = m_core.program.trimText(ProgramField::ProgramName);
+    if (!m_core.prompts.askYesNo(name + QStringLiteral(" Company not saved"),
+                                 QStringLiteral("Do you want to save ") + name + u'?',
+                                 Prompts::Icon::Question))
         return true;
-    m_s.transfer().ScreenToProgram();
-    if (!m_s.programs().WriteCurrentProgram())
+    m_transfer.ScreenToProgram();
+    if (!m_programs.WriteCurrentProgram())
         return false;
     SetProgramClean();
     return true;
@@ -42,7 +49,7 @@ bool SessionNavigation::isProgramDirty() {
 
 // A modified record locks its selector, so no other record can be chosen until it is saved.
 void SessionNavigation::setModified(QStringView selector, bool& flag, bool modified) {
-    m_s.screen().setEnabled(m_s.id(selector), !modified);
+    m_core.screen.setEnabled(m_core.id(selector), !modified);
     flag = modified;
     UpdateCaption();
 }
@@ -70,34 +77,34 @@ void SessionNavigation::UpdateCaption(QString& extra) {
         extra = QStringLiteral(" > (") + extra + u')';
     const QString companyMarker = m_state.CompanyDirty ? kModified : QString();
     const QString programMarker = m_state.ProgramDirty ? kModified : QString();
-    ProgramRecord& p = m_s.program();
+    ProgramRecord& p = m_core.program;
     const QString caption =
-        QLatin1String(kAppTitle) + u' ' + m_s.appVersionText() + QStringLiteral(" - [") +
-        m_s.company().trimText(CompanyField::CompanyName) + companyMarker + QStringLiteral(" - ") +
+        QLatin1String(kAppTitle) + u' ' + m_core.appVersionText + QStringLiteral(" - [") +
+        m_core.company.trimText(CompanyField::CompanyName) + companyMarker + QStringLiteral(" - ") +
         p.trimText(ProgramField::ProgramName) + u' ' + p.trimText(ProgramField::ProgramVersion) +
         programMarker + QStringLiteral("] ") + extra;
-    m_s.screen().setCaption(m_s.id(u"frmStart"), caption);
+    m_core.screen.setCaption(m_core.id(u"frmStart"), caption);
 }
 
 void SessionNavigation::SimpleText(const QString& text) {
-    m_s.screen().setCaption(m_s.id(u"StatusBar1"), text);
+    m_core.screen.setCaption(m_core.id(u"StatusBar1"), text);
 }
 
 void SessionNavigation::LoadCompanyProgramOnly() {
-    ProgramCommands& programs = m_s.programs();
-    m_s.screen().setItems(m_s.id(u"cboProgramName"), {});
-    m_s.transfer().ClearProgramScreen();
-    m_s.transfer().ClearProgramRecord();
+    ProgramCommands& programs = m_programs;
+    m_core.screen.setItems(m_core.id(u"cboProgramName"), {});
+    m_transfer.ClearProgramScreen();
+    m_transfer.ClearProgramRecord();
     programs.OpenPrograms();
     programs.ReadCurrentProgram();
     programs.LoadProgramList();
-    m_s.transfer().ProgramToScreen();
+    m_transfer.ProgramToScreen();
     programs.ShowProgramPosition();
 }
 
 void SessionNavigation::companySelected() {
-    ScreenModel& screen = m_s.screen();
-    const int selector = m_s.id(u"cboCompanyName");
+    ScreenModel& screen = m_core.screen;
+    const int selector = m_core.id(u"cboCompanyName");
     const int index = screen.at(selector).listIndex;
     if (index < 0)
         return;
@@ -108,28 +115,28 @@ void SessionNavigation::companySelected() {
         return;
     }
     m_state.CurrentCompanyNo = index + 1;
-    m_s.companies().ShowCurrentCompany();
-    m_s.companies().ShowCompanyPosition();
-    m_s.programs().ShowProgramPosition();
-    screen.setCaption(m_s.id(u"lblCompanyID"),
-                      QString::number(m_s.company().number(CompanyField::CompanyID)));
+    m_companies.ShowCurrentCompany();
+    m_companies.ShowCompanyPosition();
+    m_programs.ShowProgramPosition();
+    screen.setCaption(m_core.id(u"lblCompanyID"),
+                      QString::number(m_core.company.number(CompanyField::CompanyID)));
     LoadCompanyProgramOnly();
     if (!m_state.NewCompanyPending)
         SetProgramClean();
-    screen.setCaption(m_s.id(u"lblProgramID"),
-                      QString::number(m_s.program().number(ProgramField::CompanyID)));
+    screen.setCaption(m_core.id(u"lblProgramID"),
+                      QString::number(m_core.program.number(ProgramField::CompanyID)));
     SetCompanyClean();
     SetProgramClean();
     UpdateCaption();
     if (!screen.at(u"cboProgramName").items.isEmpty())
-        screen.setListIndex(m_s.id(u"cboProgramName"), 0);
+        screen.setListIndex(m_core.id(u"cboProgramName"), 0);
     m_state.CurrentProgramNo = screen.at(u"cboProgramName").listIndex + 1;
-    m_s.programs().ShowProgramPosition();
+    m_programs.ShowProgramPosition();
 }
 
 void SessionNavigation::programSelected() {
-    ScreenModel& screen = m_s.screen();
-    const int selector = m_s.id(u"cboProgramName");
+    ScreenModel& screen = m_core.screen;
+    const int selector = m_core.id(u"cboProgramName");
     const int index = screen.at(selector).listIndex;
     if (index < 0)
         return;
@@ -138,15 +145,15 @@ void SessionNavigation::programSelected() {
         return;
     }
     m_state.CurrentProgramNo = index + 1;
-    m_s.programs().ShowSelectedProgram();
-    screen.setCaption(m_s.id(u"lblProgramID"),
-                      QString::number(m_s.program().number(ProgramField::CompanyID)));
+    m_programs.ShowSelectedProgram();
+    screen.setCaption(m_core.id(u"lblProgramID"),
+                      QString::number(m_core.program.number(ProgramField::CompanyID)));
     SetProgramClean();
 }
 
 void SessionNavigation::tabSelected() {
-    ScreenModel& screen = m_s.screen();
-    const int tabs = m_s.id(u"SSTab1");
+    ScreenModel& screen = m_core.screen;
+    const int tabs = m_core.id(u"SSTab1");
     if (m_state.NewCompanyPending) {
         SimpleText(QStringLiteral("Please SAVE your Company Data before you try to add products!"));
         if (screen.at(tabs).listIndex != 0)
@@ -159,9 +166,9 @@ void SessionNavigation::tabSelected() {
     // Save Program on every other tab.
     using A = ControlAction;
     for (const A company : {A::NewCompany, A::SaveCompany, A::DeleteCompany})
-        m_s.setCommandEnabled(company, tab == 0);
+        m_core.setCommandEnabled(company, tab == 0);
     for (const A program : {A::NewProgram, A::SaveProgram, A::DeleteProgram})
-        m_s.setCommandEnabled(program, tab == 1 || (tab > 1 && program == A::SaveProgram));
+        m_core.setCommandEnabled(program, tab == 1 || (tab > 1 && program == A::SaveProgram));
 }
 
 } // namespace brevaro

@@ -6,13 +6,17 @@
 
 namespace brevaro {
 
-class EditingSession;
+struct SessionCore;
+class CompanyCommands;
+class ProgramCommands;
+class ScreenTransfer;
 
 // Choosing companies, programs and tabs, and the modified state: the selectors are locked
 // while a record is modified, the caption says so, and leaving a modified record asks first.
 class SessionNavigation {
 public:
-    SessionNavigation(EditingSession& session, SessionState& state);
+    SessionNavigation(SessionCore& core, CompanyCommands& companies, ProgramCommands& programs,
+                      ScreenTransfer& transfer);
 
     // Offer to save a modified record. True when the caller may go on: nothing was modified,
     // the user said No, or the save succeeded; false when the save the user asked for failed.
@@ -35,8 +39,11 @@ public:
 private:
     void setModified(QStringView selector, bool& flag, bool modified);
 
-    EditingSession& m_s;
+    SessionCore& m_core;
     SessionState& m_state;
+    CompanyCommands& m_companies;
+    ProgramCommands& m_programs;
+    ScreenTransfer& m_transfer;
 };
 
 } // namespace brevaro
