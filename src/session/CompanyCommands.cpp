@@ -15,7 +15,8 @@ CompanyCommands::CompanyCommands(SessionCore& core, SessionNavigation& navigatio
     , m_state(core.state)
     , m_navigation(navigation)
     , m_programs(programs)
-    , m_transfer(transfer) {}
+    , m_transfer(transfer)
+    , m_side(core, transfer, RecordSide::Company) {}
 
 int CompanyCommands::GetCompanyCount() const {
     return m_core.store.companyCount();
@@ -58,9 +59,7 @@ void CompanyCommands::ShowCurrentCompany() {
 }
 
 void CompanyCommands::ShowCompanyPosition() {
-    m_core.screen.setCaption(
-        m_core.id(u"lblCompanyRecord"),
-        QStringLiteral("%1 of %2").arg(m_state.CurrentCompanyNo).arg(m_state.CompanyCount));
+    m_side.showPosition(m_state.CurrentCompanyNo, m_state.CompanyCount);
 }
 
 void CompanyCommands::OpenCompanies() {
@@ -82,31 +81,11 @@ void CompanyCommands::OpenCompanies() {
 CommandResult CompanyCommands::NewCompany() {
     if (!m_navigation.isCompanyDirty())
         return CommandResult::failed(m_core.store.errorString());
-    const auto answer = m_core.prompts.inputBox(
-        QStringLiteral("Enter new Company Name, or if you don't have a company, your First and "
-                       "Last name: "),
-        QStringLiteral("New Company"), QString());
-    const QString name = trimBlanks(answer.value_or(QString()));
-    if (name.isEmpty())
-        return CommandResult::declined();
-    CreateCompany(name);
-    return CommandResult::done();
+    return m_side.askAndCreate(GetCompanyCount());
 }
 
 void CompanyCommands::CreateCompany(const QString& name) {
-    if (trimBlanks(name).isEmpty())
-        return;
-    m_transfer.EnableCompanyFields(true);
-    m_state.NewCompanyPending = true;
-    m_state.CompanyCount = GetCompanyCount() + 1;
-    m_state.CurrentCompanyNo = m_state.CompanyCount;
-    m_transfer.ClearCompanyScreen();
-    m_transfer.ClearCompanyRecord();
-    const int selector = m_core.id(u"cboCompanyName");
-    m_core.screen.addItem(selector, name);
-    m_core.screen.setText(selector, name);
-    ShowCompanyPosition();
-    m_core.screen.requestFocus(m_core.id(u"txtAddress1"));
+    m_side.create(name, GetCompanyCount());
 }
 
 CommandResult CompanyCommands::SaveCompany() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "session/CommandResult.h"
+#include "session/RecordSideCommands.h"
 #include "session/SessionState.h"
 
 #include <QString>
@@ -41,6 +42,7 @@ private:
     SessionNavigation& m_navigation;
     ProgramCommands& m_programs;
     ScreenTransfer& m_transfer;
+    RecordSideCommands m_side;
 };
 
 } // namespace brevaro

@@ -14,7 +14,8 @@ ProgramCommands::ProgramCommands(SessionCore& core, SessionNavigation& navigatio
     : m_core(core)
     , m_state(core.state)
     , m_navigation(navigation)
-    , m_transfer(transfer) {}
+    , m_transfer(transfer)
+    , m_side(core, transfer, RecordSide::Program) {}
 
 int ProgramCommands::companyId() const {
     return m_core.company.number(CompanyField::CompanyID);
@@ -89,10 +90,7 @@ void ProgramCommands::ShowSelectedProgram() {
 }
 
 void ProgramCommands::ShowProgramPosition() {
-    m_core.screen.setCaption(m_core.id(u"lblProgramRecord"),
-                             QStringLiteral("%1 of %2")
-                                 .arg(m_state.CurrentProgramNo)
-                                 .arg(m_core.screen.at(u"cboProgramName").items.size()));
+    m_side.showPosition(m_state.CurrentProgramNo, m_core.screen.at(u"cboProgramName").items.size());
 }
 
 void ProgramCommands::OpenPrograms() {
@@ -105,29 +103,11 @@ void ProgramCommands::OpenPrograms() {
 CommandResult ProgramCommands::NewProgram() {
     if (!m_navigation.isProgramDirty())
         return CommandResult::failed(m_core.store.errorString());
-    const auto answer = m_core.prompts.inputBox(QStringLiteral("Enter new Program Name:"),
-                                                QStringLiteral("New Program"), QString());
-    const QString name = trimBlanks(answer.value_or(QString()));
-    if (name.isEmpty())
-        return CommandResult::declined();
-    CreateProgram(name);
-    return CommandResult::done();
+    return m_side.askAndCreate(GetProgramCount());
 }
 
 void ProgramCommands::CreateProgram(const QString& name) {
-    if (trimBlanks(name).isEmpty())
-        return;
-    m_transfer.EnableProgramFields(true);
-    m_state.NewProgramPending = true;
-    m_state.ProgramCount = GetProgramCount() + 1;
-    m_state.CurrentProgramNo = m_state.ProgramCount;
-    m_transfer.ClearProgramScreen();
-    m_transfer.ClearProgramRecord();
-    const int selector = m_core.id(u"cboProgramName");
-    m_core.screen.addItem(selector, name);
-    m_core.screen.setText(selector, name);
-    ShowProgramPosition();
-    m_core.screen.requestFocus(m_core.id(u"txtProgramVersion"));
+    m_side.create(name, GetProgramCount());
 }
 
 CommandResult ProgramCommands::SaveProgram() {

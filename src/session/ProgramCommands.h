@@ -1,6 +1,7 @@
 #pragma once
 
 #include "session/CommandResult.h"
+#include "session/RecordSideCommands.h"
 #include "session/SessionState.h"
 
 #include <QString>
@@ -39,6 +40,7 @@ private:
     SessionState& m_state;
     SessionNavigation& m_navigation;
     ScreenTransfer& m_transfer;
+    RecordSideCommands m_side;
 };
 
 } // namespace brevaro
