@@ -61,13 +61,9 @@ void ScreenModel::setText(int id, const QString& text) {
 }
 
 void ScreenModel::setListIndex(int id, int index) {
-    ControlState& s = state(id);
-    if (index >= s.items.size())
+    if (index >= state(id).items.size())
         return;
-    s.listIndex = index;
-    if (s.kind == ControlKind::ComboBox && index >= 0)
-        s.text = s.items[index];
-    changed(id, kChangedSelection | kChangedText);
+    restoreListIndex(id, index);
     if (m_events)
         m_events->onClick(id);
 }

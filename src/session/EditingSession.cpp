@@ -166,6 +166,12 @@ std::optional<CommandResult> EditingSession::runRecordCommand(ControlAction acti
 }
 
 CommandResult EditingSession::trigger(ControlAction action) {
+    // As a click, a command runs only while one of its controls is enabled.
+    bool available = false;
+    for (std::size_t id = 0; id < m_controls.size(); ++id)
+        available = available || (m_controls[id].action == action && m_screen.at(int(id)).enabled);
+    if (!available)
+        return CommandResult::refused(QStringLiteral("the command is not available now"));
     if (auto result = runRecordCommand(action))
         return *result;
     for (const ControlRow& r : m_controls)

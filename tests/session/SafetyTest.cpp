@@ -151,6 +151,11 @@ TEST_F(SessionTest, EachTabEnablesItsOwnButtonsAndMenuItems) {
         EXPECT_EQ(buttons, QLatin1String(wantButtons)) << "tab " << tab;
         EXPECT_EQ(menu, QLatin1String(wantMenu)) << "tab " << tab;
     }
+    // A disabled command does not run when triggered, as its button does not.
+    const qsizetype asked = prompts.asked.size();
+    EXPECT_EQ(command(ControlAction::DeleteCompany).outcome, CommandResult::Outcome::Refused);
+    EXPECT_EQ(prompts.asked.size(), asked);
+    EXPECT_EQ(store.companyCount(), 1);
 }
 
 TEST_F(SessionTest, AnEmptyHomeShowsNoCaptionInItsFields) {
