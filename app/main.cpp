@@ -4,6 +4,7 @@
 #include "store/HomeLock.h"
 #include "store/RecordStore.h"
 #include "window/MainWindow.h"
+#include "window/SubmissionPluginLoader.h"
 #include "window/WidgetPrompts.h"
 
 #include <QApplication>
@@ -54,6 +55,7 @@ int main(int argc, char* argv[]) {
             return 0;
         }
     }
+    prepareForSubmissionBrowser();
     QApplication app(argc, argv);
     describe();
     QGuiApplication::setDesktopFileName(QStringLiteral("io.github.brevaro.Brevaro"));

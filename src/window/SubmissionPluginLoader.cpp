@@ -1,24 +1,27 @@
 #include "window/SubmissionPluginLoader.h"
 
+#include "platform/SystemUser.h"
 #include "submission/SubmissionPlugin.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QPluginLoader>
+#include <cstdio>
 
 namespace brevaro {
 
-namespace {
-
-// The web engine, loaded later from the plugin, needs OpenGL contexts shared from the moment
-// the application object is made (without it, it crashes when the browser opens). This runs
-// before main() in any program that can open the browser.
-void shareOpenGLContexts() {
+void prepareForSubmissionBrowser() {
+    // The web engine, loaded later from the plugin, needs OpenGL contexts shared from the
+    // moment the application object is made.
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    // Its sandbox refuses to run as root and then ends the whole program: as root the browser
+    // runs without it, and says so.
+    if (isSuperUser() && qEnvironmentVariableIsEmpty("QTWEBENGINE_DISABLE_SANDBOX")) {
+        qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+        std::fprintf(stderr, "brevaro: running as root, so the submission browser runs without "
+                             "its sandbox\n");
+    }
 }
-Q_CONSTRUCTOR_FUNCTION(shareOpenGLContexts)
-
-} // namespace
 
 QString submissionPluginPath() {
     QString folder = qEnvironmentVariable("BREVARO_PLUGIN_DIR");

@@ -11,6 +11,11 @@ class CompanyRecord;
 class ProgramRecord;
 class Prompts;
 
+// What the web engine needs before the application object is made: shared OpenGL contexts,
+// and, when running as root, its sandbox turned off (with a line on stderr saying so). Every
+// program that can open the browser calls it first thing in main().
+void prepareForSubmissionBrowser();
+
 // Opens the submission browser modally over parent, loading the web plugin on first use.
 // homeFolder is the application home; afterSiteListDownload, when set, runs after each download
 // of the site list (the main window's banner data refresh). False, with a plain message in

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 using namespace brevaro::test;
 
 namespace {
@@ -20,7 +21,7 @@ namespace {
 // question is not asked).
 bool webEngineMapped() {
 #ifdef Q_OS_LINUX
-    QFile maps(QStringLiteral("/proc/self/maps"));
+    QFile maps(u"/proc/self/maps"_s);
     return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("libQt6WebEngineCore");
 #else
     return false;
@@ -46,18 +47,19 @@ TEST(SubmissionPlugin, LoadedOnFirstUseFromBesideTheProgram) {
     // Test executables run from bin/ like the program, so the plugin is found the same way.
     EXPECT_TRUE(QFile::exists(submissionPluginPath())) << submissionPluginPath().toStdString();
 
-    // Set before main() by the loader itself; without it the web engine would crash.
+    // Set by main() before the application, as the program does; without it the web engine
+    // would crash.
     EXPECT_TRUE(QCoreApplication::testAttribute(Qt::AA_ShareOpenGLContexts));
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts, false);
     QString error;
     EXPECT_FALSE(openSubmissionBrowser(nullptr, company, program, home.path(), prompts, &error));
-    EXPECT_TRUE(error.contains(QStringLiteral("OpenGL"))) << error.toStdString();
+    EXPECT_TRUE(error.contains(u"OpenGL"_s)) << error.toStdString();
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
 
     qputenv("BREVARO_PLUGIN_DIR", QDir::tempPath().toUtf8() + "/no-such-folder");
     error.clear();
     EXPECT_FALSE(openSubmissionBrowser(nullptr, company, program, home.path(), prompts, &error));
-    EXPECT_TRUE(error.contains(QStringLiteral("no-such-folder"))) << error.toStdString();
+    EXPECT_TRUE(error.contains(u"no-such-folder"_s)) << error.toStdString();
     qunsetenv("BREVARO_PLUGIN_DIR");
     EXPECT_FALSE(webEngineMapped());
 
@@ -68,7 +70,7 @@ TEST(SubmissionPlugin, LoadedOnFirstUseFromBesideTheProgram) {
         QWidget* modal = QApplication::activeModalWidget();
         if (!modal || modal->objectName() != u"frmBrowser")
             return;
-        auto* list = modal->findChild<QTreeWidget*>(QStringLiteral("lstInfo"));
+        auto* list = modal->findChild<QTreeWidget*>(u"lstInfo"_s);
         if (list && list->isEnabled()) {
             title = modal->windowTitle();
             modal->close();
@@ -80,8 +82,8 @@ TEST(SubmissionPlugin, LoadedOnFirstUseFromBesideTheProgram) {
     EXPECT_TRUE(openSubmissionBrowser(nullptr, company, program, home.path(), prompts, &error, [&] {
         ++downloads;
     })) << error.toStdString();
-    EXPECT_EQ(title, QStringLiteral("Software Submission - [Quorin]"));
+    EXPECT_EQ(title, u"Software Submission - [Quorin]"_s);
     EXPECT_EQ(downloads, 1) << "the site list is fetched once on opening";
-    EXPECT_EQ(webEngineMapped(), QFile::exists(QStringLiteral("/proc/self/maps")));
+    EXPECT_EQ(webEngineMapped(), QFile::exists(u"/proc/self/maps"_s));
     qputenv("BREVARO_SERVER", oldServer);
 }
