@@ -40,7 +40,7 @@ int checkCommand(CliContext& ctx, const QStringList& words) {
                        {QStringLiteral("--json")});
     if (!args.positional().isEmpty())
         throw CliError{1, QStringLiteral("unexpected argument %1").arg(args.positional().front())};
-    EditingSession& s = ctx.session();
+    EditingSession& s = ctx.readingSession();
     const int c = ctx.company(args.required(QStringLiteral("-c")));
     ctx.select(c, ctx.program(ctx.companyId(c), args.required(QStringLiteral("-p"))));
     const std::vector<PadFinding> findings = withFieldLabels(checkPad(s.company(), s.program()));

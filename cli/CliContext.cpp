@@ -160,6 +160,16 @@ EditingSession& CliContext::session() {
     return *m_session;
 }
 
+EditingSession& CliContext::readingSession() {
+    if (!m_session) {
+        prepareForReading();
+        m_session = std::make_unique<EditingSession>(m_store, m_prompts);
+        m_session->Start();
+        failOnMessages();
+    }
+    return *m_session;
+}
+
 void CliContext::select(int company, int program) {
     ScreenModel& screen = session().screen();
     screen.setListIndex(screen.id(u"cboCompanyName"), company - 1);

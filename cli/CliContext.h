@@ -42,6 +42,9 @@ public:
     // The main window's session, started on the home as a freshly opened window; the first
     // call takes the home lock.
     EditingSession& session();
+    // The same for a command that only reads the home: no lock is taken, so it works while
+    // the window holds the home (an interrupted deletion is still completed first).
+    EditingSession& readingSession();
     AutoPrompts& prompts() { return m_prompts; }
     // Shows company c (and program p when above 0) as a user would select them.
     void select(int company, int program = 0);

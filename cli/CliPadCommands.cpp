@@ -16,11 +16,12 @@ namespace brevaro::cli {
 
 namespace {
 
-// Shows the program named by -c and -p in a freshly started session.
-EditingSession& showProgram(CliContext& ctx, const CliArgs& args) {
+// Shows the program named by -c and -p in a freshly started session. A command that writes
+// nothing into the home reads it without its lock, so it also works while the window is open.
+EditingSession& showProgram(CliContext& ctx, const CliArgs& args, bool writesIntoHome = false) {
     if (!args.positional().isEmpty())
         throw CliError{1, QStringLiteral("unexpected argument %1").arg(args.positional().front())};
-    EditingSession& s = ctx.session();
+    EditingSession& s = writesIntoHome ? ctx.session() : ctx.readingSession();
     const int c = ctx.company(args.required(QStringLiteral("-c")));
     ctx.select(c, ctx.program(ctx.companyId(c), args.required(QStringLiteral("-p"))));
     return s;
@@ -42,7 +43,11 @@ const QString kCrLf = QStringLiteral("\r\n");
 int padCommand(CliContext& ctx, const QStringList& words) {
     const CliArgs args(words, {QStringLiteral("-c"), QStringLiteral("-p"), QStringLiteral("-o")},
                        {QStringLiteral("--check")});
-    EditingSession& s = showProgram(ctx, args);
+    const bool intoHome =
+        args.has(QStringLiteral("-o")) &&
+        QDir::cleanPath(QFileInfo(args.value(QStringLiteral("-o"))).absoluteFilePath())
+            .startsWith(QDir::cleanPath(ctx.home().root()) + u'/');
+    EditingSession& s = showProgram(ctx, args, intoHome);
     if (args.has(QStringLiteral("--check")))
         refusePadWithErrors(s.company(), s.program());
     if (!args.has(QStringLiteral("-o"))) {

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QThread>
 #include <gtest/gtest.h>
 
@@ -112,4 +113,36 @@ TEST(CliHomeSafety, DamagedRecordFilesAreReported) {
     EXPECT_EQ(set.status, 2);
     EXPECT_TRUE(set.err.contains(QStringLiteral("far larger"))) << set.err.toStdString();
     EXPECT_EQ(QFileInfo(u.home().programFile(2)).size(), qint64(4) * 1024 * 1024 * 1024);
+}
+
+// While the window holds the home, the commands that only read it work; a writer, and a PAD
+// file written into the home, are refused.
+TEST(CliHomeSafety, ReadersWorkWhileTheWindowHoldsTheHome) {
+    TempHome t;
+    twoCompanies(t);
+    HomeLock window(t.home());
+    QString message;
+    ASSERT_TRUE(window.acquire(&message));
+    QTemporaryDir outside;
+    const QString padOutside = outside.filePath(QStringLiteral("p.xml"));
+    const QString padInside = t.file(QStringLiteral("pad/p.xml"));
+    for (const QStringList& reader :
+         {words({"list"}), words({"show", "-c", "2", "-p", "1", "--json"}),
+          words({"check", "-c", "2", "-p", "1"}), words({"webinfo", "-c", "2", "-p", "1"}),
+          words({"verify", "-c", "2", "-p", "1"}),
+          words({"pad", "-c", "2", "-p", "1", "-o"}) << padOutside}) {
+        SCOPED_TRACE(reader.join(u' ').toStdString());
+        const CliResult r = runCliIn(t, reader);
+        EXPECT_NE(r.status, 2) << r.err.toStdString();
+        EXPECT_FALSE(r.out.isEmpty() && reader[0] != QLatin1String("pad"));
+    }
+    EXPECT_TRUE(QFile::exists(padOutside));
+    for (const QStringList& writer :
+         {words({"new-company", "C"}), words({"pad", "-c", "2", "-p", "1", "-o"}) << padInside}) {
+        SCOPED_TRACE(writer.join(u' ').toStdString());
+        const CliResult r = runCliIn(t, writer);
+        EXPECT_EQ(r.status, 2);
+        EXPECT_TRUE(r.err.contains(QStringLiteral("in use"))) << r.err.toStdString();
+    }
+    EXPECT_FALSE(QFile::exists(padInside));
 }
