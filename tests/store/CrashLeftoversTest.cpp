@@ -1,29 +1,15 @@
-#include "TestSupport.h"
+#include "StoreFill.h"
 #include "store/HomeLock.h"
-#include "store/RecordStore.h"
 
-#include <QDir>
 #include <QProcess>
 #include <QSysInfo>
 #include <gtest/gtest.h>
 
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 using namespace brevaro::test;
 
 namespace {
-
-void addCompany(RecordStore& store, int n, const QString& name, int programs) {
-    CompanyRecord company;
-    company.setNumber(CompanyField::CompanyID, n);
-    company.setText(CompanyField::CompanyName, name);
-    ASSERT_TRUE(store.writeCompany(n, company));
-    for (int p = 1; p <= programs; ++p) {
-        ProgramRecord program;
-        program.setNumber(ProgramField::CompanyID, n);
-        program.setText(ProgramField::ProgramName, QString(name + QString::number(p)));
-        ASSERT_TRUE(store.writeProgram(n, p, program));
-    }
-}
 
 // Every file under the home with its bytes, to show that nothing changed.
 QMap<QString, QByteArray> snapshot(const QString& root) {
@@ -66,18 +52,18 @@ TEST(DeletionIntent, DamagedOrForeignIntentsChangeNothing) {
     for (const char* text : intents) {
         SCOPED_TRACE(text);
         QTemporaryDir outer;
-        const QString root = outer.filePath(QStringLiteral("a/b/home"));
+        const QString root = outer.filePath(u"a/b/home"_s);
         QDir().mkpath(root);
-        writeBytes(outer.filePath(QStringLiteral("a/victim.txt")), "keep me");
-        writeBytes(outer.filePath(QStringLiteral("a/victim.dta")), "keep me too");
+        writeBytes(outer.filePath(u"a/victim.txt"_s), "keep me");
+        writeBytes(outer.filePath(u"a/victim.dta"_s), "keep me too");
         RecordStore store{AppHome(root)};
         store.home().createFolders();
-        addCompany(store, 1, QStringLiteral("A"), 1);
-        addCompany(store, 2, QStringLiteral("B"), 2);
+        addCompany(store, 1, 1);
+        addCompany(store, 2, 2);
         writeBytes(store.home().deletionIntentFile(), QByteArray(text));
         const auto before = snapshot(outer.path());
         EXPECT_FALSE(store.completeInterruptedDeletion());
-        EXPECT_TRUE(store.errorString().contains(QStringLiteral("nothing was changed")))
+        EXPECT_TRUE(store.errorString().contains(u"nothing was changed"_s))
             << store.errorString().toStdString();
         EXPECT_EQ(snapshot(outer.path()), before);
     }
@@ -89,30 +75,27 @@ TEST(DeletionIntent, DamagedOrForeignIntentsChangeNothing) {
 TEST(RecordStore, CrashLeftoversAreClearedAndOrphansSetAside) {
     TempHome t;
     RecordStore store(t.home());
-    addCompany(store, 1, QStringLiteral("A"), 1);
-    addCompany(store, 2, QStringLiteral("B"), 1);
+    addCompany(store, 1, 1);
+    addCompany(store, 2, 1);
     for (const char* name : {"2.dta.TiBxhS", "deletion.intent.AseIiT", "company.dta.x1Y2z3"})
-        writeBytes(t.file(QStringLiteral("data/") + QLatin1String(name)), "half");
-    writeBytes(t.file(QStringLiteral("data/7.dta")),
-               readBytes(t.file(QStringLiteral("data/2.dta"))));
-    writeBytes(t.file(QStringLiteral("data/notes.txt")), "mine");
+        writeBytes(t.file(u"data/"_s + QLatin1String(name)), "half");
+    writeBytes(t.file(u"data/7.dta"_s), readBytes(t.file(u"data/2.dta"_s)));
+    writeBytes(t.file(u"data/notes.txt"_s), "mine");
     const QStringList report = store.clearCrashLeftovers();
     ASSERT_EQ(report.size(), 1);
-    EXPECT_TRUE(report[0].contains(QStringLiteral("7.dta.orphaned")));
-    EXPECT_EQ(QDir(t.file(QStringLiteral("data"))).entryList(QDir::Files, QDir::Name),
-              (QStringList{QStringLiteral("1.dta"), QStringLiteral("2.dta"),
-                           QStringLiteral("7.dta.orphaned"), QStringLiteral("company.dta"),
-                           QStringLiteral("notes.txt")}));
+    EXPECT_TRUE(report[0].contains(u"7.dta.orphaned"_s));
+    EXPECT_EQ(dataFiles(t), u"1.dta 2.dta 7.dta.orphaned company.dta notes.txt"_s);
     EXPECT_TRUE(store.damage().isEmpty());
-    writeBytes(t.file(QStringLiteral("data/company.dta")), QByteArray(100, ' '));
+    writeBytes(t.file(u"data/company.dta"_s), QByteArray(100, ' '));
     EXPECT_EQ(store.damage().size(), 1);
 }
 
 // A lock nobody holds any more is taken over: an empty or unreadable one (a writer killed while
-// creating it) and one of a process that has ended. A lock of another computer is not.
-TEST(HomeLock, StaleLocksAreTakenOverForeignOnesExplained) {
+// creating it) and one of a process that has ended. A live lock or one of another computer is
+// not.
+TEST(HomeLock, StaleLocksAreTakenOverLiveAndForeignOnesRefused) {
     QProcess ended;
-    ended.start(QStringLiteral("true"));
+    ended.start(u"true"_s);
     ASSERT_TRUE(ended.waitForFinished());
     const QByteArray host = QSysInfo::machineHostName().toUtf8();
     const QByteArray stale[] = {
@@ -126,13 +109,19 @@ TEST(HomeLock, StaleLocksAreTakenOverForeignOnesExplained) {
         QString message;
         EXPECT_TRUE(lock.acquire(&message)) << message.toStdString();
     }
+    // A live lock refuses a second writer; a foreign one says whose it is.
     TempHome t;
-    writeBytes(t.home().lockFile(), "4242\nbrevaro\nfar-away-host\n");
-    HomeLock lock(t.home());
+    HomeLock first(t.home()), second(t.home());
     QString message;
-    EXPECT_FALSE(lock.acquire(&message));
-    EXPECT_TRUE(message.contains(QStringLiteral("far-away-host")));
-    EXPECT_TRUE(message.contains(t.home().lockFile()));
+    ASSERT_TRUE(first.acquire(&message));
+    EXPECT_FALSE(second.acquire(&message));
+    EXPECT_TRUE(message.contains(u"in use"_s));
+    TempHome far;
+    writeBytes(far.home().lockFile(), "4242\nbrevaro\nfar-away-host\n");
+    HomeLock foreign(far.home());
+    EXPECT_FALSE(foreign.acquire(&message));
+    EXPECT_TRUE(message.contains(u"far-away-host"_s));
+    EXPECT_TRUE(message.contains(far.home().lockFile()));
 }
 
 // A batch changes nothing on disk until it is committed, then every file at once; a crash
@@ -140,43 +129,39 @@ TEST(HomeLock, StaleLocksAreTakenOverForeignOnesExplained) {
 TEST(RecordStore, BatchedChangesGoInTogether) {
     TempHome t;
     RecordStore store(t.home());
-    addCompany(store, 1, QStringLiteral("A"), 2);
+    addCompany(store, 1, 2);
     const QByteArray companies = readBytes(t.home().companyFile());
     const QByteArray programs = readBytes(t.home().programFile(1));
 
     store.beginBatch();
-    addCompany(store, 2, QStringLiteral("B"), 3);
+    addCompany(store, 2, 3);
     ASSERT_TRUE(store.deleteProgram(1, 1));
     ASSERT_TRUE(store.deleteProgram(1, 1));
-    EXPECT_EQ(store.companyNames(), (QStringList{QStringLiteral("A"), QStringLiteral("B")}));
+    EXPECT_EQ(store.companyNames(), (QStringList{u"A"_s, u"B"_s}));
     EXPECT_EQ(store.programCount(1), 0);
     EXPECT_EQ(readBytes(t.home().companyFile()), companies) << "nothing is written yet";
     EXPECT_EQ(readBytes(t.home().programFile(1)), programs);
     EXPECT_FALSE(QFile::exists(t.home().programFile(2)));
     ASSERT_TRUE(store.commitBatch());
     RecordStore fresh(t.home());
-    EXPECT_EQ(fresh.companyNames(), (QStringList{QStringLiteral("A"), QStringLiteral("B")}));
-    EXPECT_EQ(fresh.programNames(2),
-              (QStringList{QStringLiteral("B1"), QStringLiteral("B2"), QStringLiteral("B3")}));
+    EXPECT_EQ(fresh.companyNames(), (QStringList{u"A"_s, u"B"_s}));
+    EXPECT_EQ(fresh.programNames(2), (QStringList{u"B-1"_s, u"B-2"_s, u"B-3"_s}));
     EXPECT_FALSE(QFile::exists(t.home().programFile(1)));
-    EXPECT_EQ(QDir(t.file(QStringLiteral("data"))).entryList(QDir::Files, QDir::Name),
-              (QStringList{QStringLiteral("2.dta"), QStringLiteral("company.dta")}));
+    EXPECT_EQ(dataFiles(t), u"2.dta company.dta"_s);
 
     // Killed after the new files and the intent were written: the next start completes.
-    writeBytes(t.file(QStringLiteral("data/company.dta.pending")), companies);
-    writeBytes(t.file(QStringLiteral("data/1.dta.pending")), programs);
+    writeBytes(t.file(u"data/company.dta.pending"_s), companies);
+    writeBytes(t.file(u"data/1.dta.pending"_s), programs);
     writeBytes(t.home().saveIntentFile(), "save\nwrite company.dta\nwrite 1.dta\nremove 2.dta\n");
     ASSERT_TRUE(fresh.completeInterruptedDeletion()) << fresh.errorString().toStdString();
     EXPECT_EQ(readBytes(t.home().companyFile()), companies);
     EXPECT_EQ(readBytes(t.home().programFile(1)), programs);
-    EXPECT_EQ(QDir(t.file(QStringLiteral("data"))).entryList(QDir::Files, QDir::Name),
-              (QStringList{QStringLiteral("1.dta"), QStringLiteral("company.dta")}));
+    EXPECT_EQ(dataFiles(t), u"1.dta company.dta"_s);
 
     // Killed before the intent: the half-made new file goes, the data stays.
-    writeBytes(t.file(QStringLiteral("data/1.dta.pending")), "half");
+    writeBytes(t.file(u"data/1.dta.pending"_s), "half");
     EXPECT_TRUE(fresh.clearCrashLeftovers().isEmpty());
-    EXPECT_EQ(QDir(t.file(QStringLiteral("data"))).entryList(QDir::Files, QDir::Name),
-              (QStringList{QStringLiteral("1.dta"), QStringLiteral("company.dta")}));
+    EXPECT_EQ(dataFiles(t), u"1.dta company.dta"_s);
 
     // An intent naming a file outside the data is refused and changes nothing.
     for (const char* bad : {"save\nwrite ../x.dta\n", "save\nremove /etc/passwd\n", "write 1.dta\n",

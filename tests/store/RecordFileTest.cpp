@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 using namespace brevaro::test;
 
 namespace {
@@ -20,22 +21,20 @@ QByteArray rec(char c) {
 } // namespace
 
 TEST(RecordFile, CountRoundsHalfToEven) {
-    EXPECT_EQ(RecordFile::countFor(0, 842), 0);
-    EXPECT_EQ(RecordFile::countFor(421, 842), 0);
-    EXPECT_EQ(RecordFile::countFor(422, 842), 1);
-    EXPECT_EQ(RecordFile::countFor(1263, 842), 2);
-    EXPECT_EQ(RecordFile::countFor(1684, 842), 2);
-    EXPECT_EQ(RecordFile::countFor(2105, 842), 2); // 2.5 rounds to 2
-    EXPECT_EQ(RecordFile::countFor(64638, 32319), 2);
+    // Records of a company's size, then of a program's: bytes, record size, records.
+    const int cases[][3] = {{0, 842, 0},    {421, 842, 0},  {422, 842, 1},    {1263, 842, 2},
+                            {1684, 842, 2}, {2105, 842, 2}, {64638, 32319, 2}};
+    for (const auto& [bytes, size, count] : cases)
+        EXPECT_EQ(RecordFile::countFor(bytes, size), count) << bytes; // 2.5 rounds to 2
     TempHome t;
-    RecordFile missing(t.file(QStringLiteral("none.dta")), emptyRecord());
+    RecordFile missing(t.file(u"none.dta"_s), emptyRecord());
     EXPECT_EQ(missing.count(), 0);
     EXPECT_FALSE(missing.read(1).has_value());
 }
 
-TEST(RecordFile, WriteInPlaceTouchesOnlyThatRecord) {
+TEST(RecordFile, WriteInPlaceTouchesOnlyThatRecordRemoveCompacts) {
     TempHome t;
-    RecordFile f(t.file(QStringLiteral("x.dta")), emptyRecord());
+    RecordFile f(t.file(u"x.dta"_s), emptyRecord());
     ASSERT_TRUE(f.append(rec('a')));
     ASSERT_TRUE(f.append(rec('b')));
     ASSERT_TRUE(f.append(rec('c')));
@@ -45,12 +44,9 @@ TEST(RecordFile, WriteInPlaceTouchesOnlyThatRecord) {
     EXPECT_FALSE(f.write(5, rec('z'))); // no gaps
     EXPECT_EQ(f.count(), 3);
     // No temporary file is left beside it.
-    EXPECT_EQ(QDir(t.path()).entryList(QDir::Files), QStringList{QStringLiteral("x.dta")});
-}
+    EXPECT_EQ(QDir(t.path()).entryList(QDir::Files), QStringList{u"x.dta"_s});
 
-TEST(RecordFile, RemoveCompacts) {
-    TempHome t;
-    RecordFile f(t.file(QStringLiteral("x.dta")), emptyRecord());
+    // Removing compacts; the last removal leaves an empty file.
     f.writeAll({rec('1'), rec('2'), rec('3')});
     ASSERT_TRUE(f.remove(2));
     EXPECT_EQ(readBytes(f.path()), rec('1') + rec('3'));
@@ -63,10 +59,10 @@ TEST(RecordFile, RemoveCompacts) {
 
 TEST(RecordFile, DamagedFilesReadWithoutCrashing) {
     TempHome t;
-    const QString path = t.file(QStringLiteral("x.dta"));
+    const QString path = t.file(u"x.dta"_s);
     RecordFile f(path, emptyRecord());
     // One and a half records: the partial one reads as blanks and zeros after its bytes.
-    writeBytes(path, rec('a') + QByteArray("ab\xff\xfe", 4) + QByteArray(1, 'x').left(0));
+    writeBytes(path, rec('a') + QByteArray("ab\xff\xfe", 4));
     ASSERT_EQ(f.count(), 2);
     EXPECT_EQ(f.read(2).value(), QByteArray("ab\xff\xfe\0\0\0\0", 8));
     EXPECT_EQ(f.readSlices(0, 4).at(1), QByteArray("ab\xff\xfe"));
@@ -90,36 +86,34 @@ TEST(RecordFile, DamagedFilesReadWithoutCrashing) {
     EXPECT_EQ(f.readAll()->size(), 125u);
 }
 
-TEST(RecordFile, UnwritablePlaceReportsAnError) {
-    TempHome t;
-    writeBytes(t.file(QStringLiteral("plain")), "not a folder");
-    RecordFile f(t.file(QStringLiteral("plain/x.dta")), emptyRecord());
-    EXPECT_FALSE(f.append(rec('a')));
-    EXPECT_FALSE(f.errorString().isEmpty());
-    EXPECT_EQ(f.count(), 0);
-}
-
 // A cut file is reported; a file far larger than any record file (a sparse one costs no disk)
-// is never read whole nor rewritten.
-TEST(RecordFile, DamageIsToldAndHugeFilesAreNotRewritten) {
+// is never read whole nor rewritten; an unwritable place is an error.
+TEST(RecordFile, DamageHugeFilesAndUnwritablePlaces) {
     TempHome t;
-    const QString path = t.file(QStringLiteral("x.dta"));
+    const QString path = t.file(u"x.dta"_s);
     RecordFile f(path, emptyRecord());
     EXPECT_TRUE(f.damage().isEmpty()) << "a missing file is no damage";
     writeBytes(path, rec('a') + rec('b'));
     EXPECT_TRUE(f.damage().isEmpty());
     writeBytes(path, rec('a') + QByteArray(3, 'x'));
-    EXPECT_TRUE(f.damage().contains(QStringLiteral("middle of a record")));
+    EXPECT_TRUE(f.damage().contains(u"middle of a record"_s));
 
     QFile huge(path);
     ASSERT_TRUE(huge.open(QIODevice::ReadWrite));
     ASSERT_TRUE(huge.resize(qint64(4) * 1024 * 1024 * 1024));
     huge.close();
-    EXPECT_TRUE(f.damage().contains(QStringLiteral("far larger")));
+    EXPECT_TRUE(f.damage().contains(u"far larger"_s));
     EXPECT_EQ(f.read(1).value(), QByteArray(8, 'a')) << "one record is still read in place";
     EXPECT_FALSE(f.write(1, rec('z')));
     EXPECT_FALSE(f.errorString().isEmpty());
     EXPECT_FALSE(f.remove(1));
     EXPECT_FALSE(f.readAll().has_value());
     EXPECT_EQ(QFileInfo(path).size(), qint64(4) * 1024 * 1024 * 1024);
+
+    // A place that cannot hold a file reports an error.
+    writeBytes(t.file(u"plain"_s), "not a folder");
+    RecordFile unwritable(t.file(u"plain/x.dta"_s), emptyRecord());
+    EXPECT_FALSE(unwritable.append(rec('a')));
+    EXPECT_FALSE(unwritable.errorString().isEmpty());
+    EXPECT_EQ(unwritable.count(), 0);
 }

@@ -1,82 +1,59 @@
 #include "store/RecordStore.h"
-#include "TestSupport.h"
+#include "StoreFill.h"
 #include "store/HomeLock.h"
 
-#include <QDir>
-#include <gtest/gtest.h>
-
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 using namespace brevaro::test;
 
 namespace {
 
-// A home with companies named A, B, C...; company i has i programs named "<letter>i-<n>".
+// Companies A, B, C...; company i has i programs.
 void fill(RecordStore& store, int companies) {
-    for (int c = 1; c <= companies; ++c) {
-        CompanyRecord company;
-        company.setNumber(CompanyField::CompanyID, c);
-        company.setText(CompanyField::CompanyName, QString(QChar(u'A' + c - 1)));
-        ASSERT_TRUE(store.writeCompany(c, company));
-        for (int p = 1; p <= c; ++p) {
-            ProgramRecord program;
-            program.setNumber(ProgramField::CompanyID, c);
-            program.setText(ProgramField::ProgramName,
-                            QStringLiteral("%1-%2").arg(QChar(u'A' + c - 1)).arg(p));
-            ASSERT_TRUE(store.writeProgram(c, p, program));
-        }
-    }
+    for (int c = 1; c <= companies; ++c)
+        addCompany(store, c, c);
 }
 
-QStringList dataFiles(const TempHome& t) {
-    return QDir(t.file(QStringLiteral("data"))).entryList(QDir::Files, QDir::Name);
-}
-
+// The programs under company id are those of the company named letter, in order.
 void expectProgramsOf(const RecordStore& store, int id, const QString& letter, int count) {
     EXPECT_EQ(store.programCount(id), count);
     for (int p = 1; p <= count; ++p) {
         ProgramRecord r;
         ASSERT_TRUE(store.readProgram(id, p, r));
-        EXPECT_EQ(r.text(ProgramField::ProgramName), QStringLiteral("%1-%2").arg(letter).arg(p));
+        EXPECT_EQ(r.text(ProgramField::ProgramName), letter + u'-' + QString::number(p));
         EXPECT_EQ(r.number(ProgramField::CompanyID), id);
     }
 }
 
 } // namespace
 
-TEST(RecordStore, DeletingACompanyKeepsEveryOtherCompanysPrograms) {
+TEST(RecordStore, DeletionsCompactRecordsAndFiles) {
     TempHome t;
     RecordStore store(t.home());
     fill(store, 3);
     ASSERT_TRUE(store.deleteCompany(2));
-    EXPECT_EQ(store.companyNames(), (QStringList{QStringLiteral("A"), QStringLiteral("C")}));
+    EXPECT_EQ(store.companyNames(), (QStringList{u"A"_s, u"C"_s}));
     CompanyRecord c;
     ASSERT_TRUE(store.readCompany(2, c));
     EXPECT_EQ(c.number(CompanyField::CompanyID), 2);
-    expectProgramsOf(store, 1, QStringLiteral("A"), 1);
-    expectProgramsOf(store, 2, QStringLiteral("C"), 3);
-    EXPECT_EQ(dataFiles(t), (QStringList{QStringLiteral("1.dta"), QStringLiteral("2.dta"),
-                                         QStringLiteral("company.dta")}));
-}
+    expectProgramsOf(store, 1, u"A"_s, 1);
+    expectProgramsOf(store, 2, u"C"_s, 3);
+    EXPECT_EQ(dataFiles(t), u"1.dta 2.dta company.dta"_s);
 
-TEST(RecordStore, DeletingTheOnlyCompanyLeavesAnEmptyFile) {
-    TempHome t;
-    RecordStore store(t.home());
-    fill(store, 1);
-    ASSERT_TRUE(store.deleteCompany(1));
-    EXPECT_EQ(store.companyCount(), 0);
-    EXPECT_EQ(dataFiles(t), QStringList{QStringLiteral("company.dta")});
-    EXPECT_EQ(QFileInfo(t.file(QStringLiteral("data/company.dta"))).size(), 0);
-    EXPECT_FALSE(store.deleteCompany(1));
-}
+    ASSERT_TRUE(store.deleteProgram(2, 2));
+    EXPECT_EQ(store.programNames(2), (QStringList{u"C-1"_s, u"C-3"_s}));
+    ASSERT_TRUE(store.deleteProgram(1, 1)); // the last program takes its file along
+    EXPECT_EQ(dataFiles(t), u"2.dta company.dta"_s);
 
-TEST(RecordStore, ProgramDeletionCompactsAndDropsTheEmptyFile) {
-    TempHome t;
-    RecordStore store(t.home());
-    fill(store, 3);
-    ASSERT_TRUE(store.deleteProgram(3, 2));
-    EXPECT_EQ(store.programNames(3), (QStringList{QStringLiteral("C-1"), QStringLiteral("C-3")}));
-    ASSERT_TRUE(store.deleteProgram(1, 1));
-    EXPECT_FALSE(QFile::exists(t.file(QStringLiteral("data/1.dta"))));
+    // The only company left goes with its programs; the company file stays, empty.
+    TempHome one;
+    RecordStore single(one.home());
+    fill(single, 1);
+    ASSERT_TRUE(single.deleteCompany(1));
+    EXPECT_EQ(single.companyCount(), 0);
+    EXPECT_EQ(dataFiles(one), u"company.dta"_s);
+    EXPECT_EQ(QFileInfo(one.file(u"data/company.dta"_s)).size(), 0);
+    EXPECT_FALSE(single.deleteCompany(1));
 }
 
 // A crash at any point of a deletion is completed by the next start, with the same result:
@@ -98,8 +75,7 @@ TEST(RecordStore, InterruptedDeletionIsCompleted) {
         const QString intentPath = t.home().deletionIntentFile();
         ASSERT_TRUE(store.runDeletionPhases(intent, done - 1));
         if (run == 10) // died after setting aside one of the files of phase 1
-            QFile::rename(t.file(QStringLiteral("data/3.dta")),
-                          t.file(QStringLiteral("data/3.dta.moving")));
+            QFile::rename(t.file(u"data/3.dta"_s), t.file(u"data/3.dta.moving"_s));
         if (unrecorded && done > 0) {
             DeletionIntent earlier = intent;
             earlier.phase = done - 1;
@@ -110,23 +86,10 @@ TEST(RecordStore, InterruptedDeletionIsCompleted) {
         }
         ASSERT_TRUE(store.completeInterruptedDeletion()) << store.errorString().toStdString();
         EXPECT_FALSE(QFile::exists(intentPath));
-        EXPECT_EQ(store.companyNames(),
-                  (QStringList{QStringLiteral("A"), QStringLiteral("C"), QStringLiteral("D")}));
-        expectProgramsOf(store, 1, QStringLiteral("A"), 1);
-        expectProgramsOf(store, 2, QStringLiteral("C"), 3);
-        expectProgramsOf(store, 3, QStringLiteral("D"), 4);
-        EXPECT_EQ(dataFiles(t),
-                  (QStringList{QStringLiteral("1.dta"), QStringLiteral("2.dta"),
-                               QStringLiteral("3.dta"), QStringLiteral("company.dta")}));
+        EXPECT_EQ(store.companyNames(), (QStringList{u"A"_s, u"C"_s, u"D"_s}));
+        expectProgramsOf(store, 1, u"A"_s, 1);
+        expectProgramsOf(store, 2, u"C"_s, 3);
+        expectProgramsOf(store, 3, u"D"_s, 4);
+        EXPECT_EQ(dataFiles(t), u"1.dta 2.dta 3.dta company.dta"_s);
     }
-}
-
-TEST(HomeLock, SecondWriterIsRefused) {
-    TempHome t;
-    HomeLock first(t.home());
-    QString message;
-    ASSERT_TRUE(first.acquire(&message));
-    HomeLock second(t.home());
-    EXPECT_FALSE(second.acquire(&message));
-    EXPECT_TRUE(message.contains(QStringLiteral("in use")));
 }
