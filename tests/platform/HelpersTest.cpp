@@ -10,24 +10,27 @@
 #include <gtest/gtest.h>
 
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 
-// Positions count from 1; 0 means not found.
-TEST(StringHelpers, FindFromCountsFromOne) {
+// Positions count from 1, 0 meaning not found; control characters escaped for a terminal.
+TEST(StringHelpers, FindFromAndEscapeControls) {
     EXPECT_EQ(findFrom(1, u"abcabc", u"bc"), 2);
     EXPECT_EQ(findFrom(3, u"abcabc", u"bc"), 5);
     EXPECT_EQ(findFrom(6, u"abcabc", u"bc"), 0);
     EXPECT_EQ(findFrom(99, u"abc", u"a"), 0);
     EXPECT_EQ(findFrom(0, u"abc", u"a"), 1);
     EXPECT_EQ(findFrom(1, u"abc", u""), 0);
+    EXPECT_EQ(escapeControls(u"a\nb\tc\rd\x1b[0m\\ \u0085 \u00e9"),
+              u"a\\nb\\tc\\rd\\x1b[0m\\\\ \\x85 \u00e9"_s);
 }
 
 TEST(DayNumbers, DifferencesAndForms) {
     EXPECT_EQ(dayNumber(QDate(2026, 3, 1)) - dayNumber(QDate(2026, 2, 28)), 1);
-    EXPECT_EQ(dayNumber(QStringLiteral("2024-03-01")) - dayNumber(QStringLiteral("02/28/2024")), 2);
-    EXPECT_EQ(dayNumber(QStringLiteral("1970-01-02")), 1);
-    EXPECT_EQ(dayNumber(QStringLiteral("yesterday")), 0);
-    EXPECT_EQ(dayNumber(QStringLiteral("2024-02-30")), 0);
-    EXPECT_EQ(dateText(QDate(2026, 1, 5)), QStringLiteral("2026-01-05"));
+    EXPECT_EQ(dayNumber(u"2024-03-01"_s) - dayNumber(u"02/28/2024"_s), 2);
+    EXPECT_EQ(dayNumber(u"1970-01-02"_s), 1);
+    EXPECT_EQ(dayNumber(u"yesterday"_s), 0);
+    EXPECT_EQ(dayNumber(u"2024-02-30"_s), 0);
+    EXPECT_EQ(dateText(QDate(2026, 1, 5)), u"2026-01-05"_s);
 }
 
 // Our table agrees with Qt's own codec on every byte, both ways; the five bytes the set leaves
@@ -52,7 +55,7 @@ TEST(Win1252, AgreesWithQtOnEveryByte) {
 // Bounded reads take regular files only; a full disk is called that.
 TEST(FileHelpers, BoundedReadsAndPlainWriteErrors) {
     QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("f"));
+    const QString path = dir.filePath(u"f"_s);
     QByteArray bytes, out;
     QString error;
     {
@@ -64,25 +67,20 @@ TEST(FileHelpers, BoundedReadsAndPlainWriteErrors) {
     EXPECT_EQ(out, QByteArray("12345"));
     EXPECT_FALSE(readRegularFile(path, 4, &out, &error));
     EXPECT_FALSE(readRegularFile(dir.path(), 100, &out, &error));
-    EXPECT_FALSE(readRegularFile(QStringLiteral("/dev/zero"), 100, &out, &error));
-    EXPECT_FALSE(readRegularFile(dir.filePath(QStringLiteral("none")), 100, &out, &error));
+    EXPECT_FALSE(readRegularFile(u"/dev/zero"_s, 100, &out, &error));
+    EXPECT_FALSE(readRegularFile(dir.filePath(u"none"_s), 100, &out, &error));
     ByteBlock block;
     EXPECT_TRUE(readRegularFile(path, 5, &block, &error));
     EXPECT_EQ(QByteArray(block.data(), qsizetype(block.size())), QByteArray("12345"));
     EXPECT_FALSE(readRegularFile(path, 4, &block, &error));
     EXPECT_TRUE(block.empty());
-    EXPECT_FALSE(readRegularFile(QStringLiteral("/dev/zero"), 100, &block, &error));
+    EXPECT_FALSE(readRegularFile(u"/dev/zero"_s, 100, &block, &error));
 
-    QFile full(QStringLiteral("/dev/full"));
+    QFile full(u"/dev/full"_s);
     ASSERT_TRUE(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     EXPECT_NE(full.write(QByteArray(100, 'x')), 100);
-    EXPECT_EQ(plainWriteError(full, 100), QStringLiteral("the disk is full"));
+    EXPECT_EQ(plainWriteError(full, 100), u"the disk is full"_s);
     EXPECT_TRUE(writeFileAtomically(path, "new", &error));
-    EXPECT_FALSE(writeFileAtomically(dir.filePath(QStringLiteral("no/f")), "x", &error));
-    EXPECT_TRUE(error.contains(QStringLiteral("does not exist"))) << error.toStdString();
-}
-
-TEST(StringHelpers, EscapeControls) {
-    EXPECT_EQ(escapeControls(u"a\nb\tc\rd\x1b[0m\\ \u0085 \u00e9"),
-              QStringLiteral("a\\nb\\tc\\rd\\x1b[0m\\\\ \\x85 \u00e9"));
+    EXPECT_FALSE(writeFileAtomically(dir.filePath(u"no/f"_s), "x", &error));
+    EXPECT_TRUE(error.contains(u"does not exist"_s)) << error.toStdString();
 }

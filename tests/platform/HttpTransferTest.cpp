@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 using namespace brevaro::test;
 
 namespace {
@@ -15,68 +16,54 @@ struct Recorder {
     QStringList events;
     QString text;
     explicit Recorder(HttpTransfer& http) {
-        QObject::connect(&http, &HttpTransfer::connected, [this](int s, const QString&) {
-            events << QStringLiteral("connected %1").arg(s);
-        });
+        QObject::connect(&http, &HttpTransfer::connected,
+                         [this](int s, const QString&) { events << u"connected %1"_s.arg(s); });
         QObject::connect(&http, &HttpTransfer::transferStarted,
-                         [this](int) { events << QStringLiteral("started"); });
+                         [this](int) { events << u"started"_s; });
         QObject::connect(&http, &HttpTransfer::dataReceived,
                          [this](int, qint64, const QString& chunk) {
                              if (events.isEmpty() || events.back() != QLatin1String("data"))
-                                 events << QStringLiteral("data");
+                                 events << u"data"_s;
                              text += chunk;
                          });
         QObject::connect(&http, &HttpTransfer::transferEnded,
-                         [this](int) { events << QStringLiteral("ended"); });
+                         [this](int) { events << u"ended"_s; });
         QObject::connect(&http, &HttpTransfer::disconnected,
-                         [this](int, const QString&) { events << QStringLiteral("disconnected"); });
+                         [this](int, const QString&) { events << u"disconnected"_s; });
     }
 };
 
 } // namespace
 
-TEST(HttpTransfer, EventsInOrderAndTextDecoded) {
+TEST(HttpTransfer, EventsInOrderTextDecodedAndLocalFileBytes) {
     LocalHttpServer server;
-    server.route("/latin1",
-                 {200, "text/html; charset=ISO-8859-1", "caf\xE9 au lait", {}, false, 0});
-    server.route(
-        "/meta",
-        {200, "text/html", "<html><meta charset=\"windows-1252\">\x80 euro", {}, false, 0});
-    server.route("/bom", {200, "text/plain", "\xEF\xBB\xBFna\xC3\xAFve", {}, false, 0});
-    server.route("/plain1252", {200, "text/plain", "na\xEFve", {}, false, 0});
-    server.route("/moved", {302, "text/plain", "", "/latin1", false, 0});
+    server.route("/latin1", {200, "text/html; charset=ISO-8859-1", "caf\xE9 au lait", {}});
+    server.route("/meta", {200, "text/html", "<html><meta charset=\"windows-1252\">\x80 euro", {}});
+    server.route("/bom", {200, "text/plain", "\xEF\xBB\xBFna\xC3\xAFve", {}});
+    server.route("/plain1252", {200, "text/plain", "na\xEFve", {}});
+    server.route("/moved", {302, "text/plain", {}, "/latin1"});
+    server.route("/data.txt", {200, "text/plain", "one\ntwo\nthree", {}});
     HttpTransfer http;
     Recorder r(http);
-    struct Case {
-        const char* path;
-        QString text;
-    };
-    const Case cases[] = {
-        {"/latin1", QStringLiteral("caf\u00e9 au lait")},
-        {"/meta", QStringLiteral("<html><meta charset=\"windows-1252\">\u20ac euro")},
-        {"/bom", QStringLiteral("na\u00efve")},
-        {"/plain1252", QStringLiteral("na\u00efve")},
-        {"/moved", QStringLiteral("caf\u00e9 au lait")}};
-    for (const Case& c : cases) {
+    const std::pair<const char*, QString> cases[] = {
+        {"/latin1", u"caf\u00e9 au lait"_s},
+        {"/meta", u"<html><meta charset=\"windows-1252\">\u20ac euro"_s},
+        {"/bom", u"na\u00efve"_s},
+        {"/plain1252", u"na\u00efve"_s},
+        {"/moved", u"caf\u00e9 au lait"_s}};
+    for (const auto& [path, text] : cases) {
         r.events.clear();
         r.text.clear();
-        http.setUrl(server.url(c.path));
+        http.setUrl(server.url(path));
         http.fetch();
-        EXPECT_EQ(r.events, (QStringList{QStringLiteral("connected 200"), QStringLiteral("started"),
-                                         QStringLiteral("data"), QStringLiteral("ended"),
-                                         QStringLiteral("disconnected")}))
-            << c.path;
-        EXPECT_EQ(r.text, c.text) << c.path;
+        EXPECT_EQ(r.events.join(u','), u"connected 200,started,data,ended,disconnected"_s) << path;
+        EXPECT_EQ(r.text, text) << path;
         EXPECT_TRUE(http.succeeded());
     }
-}
 
-TEST(HttpTransfer, LocalFileKeepsTheBodyBytes) {
-    LocalHttpServer server;
-    server.route("/data.txt", {200, "text/plain", "one\ntwo\nthree", {}, false, 0});
+    // Into a local file, in a folder made for it, the body's bytes as sent.
     TempHome t;
-    const QString target = t.file(QStringLiteral("share/data.txt"));
-    HttpTransfer http;
+    const QString target = t.file(u"share/data.txt"_s);
     http.setLocalFile(target);
     http.setUrl(server.url("/data.txt"));
     http.fetch();
@@ -87,22 +74,21 @@ TEST(HttpTransfer, LocalFileKeepsTheBodyBytes) {
 // and a local file keeps what it held before.
 TEST(HttpTransfer, FailuresEndCleanlyAndKeepOldFiles) {
     LocalHttpServer server;
-    server.route("/stall", {200, "text/plain", {}, {}, true, 0});
+    server.route("/stall", {200, "text/plain", {}, {}, true});
     server.route("/huge", {200, "application/octet-stream", {}, {}, false, 100LL * 1024 * 1024});
-    server.route("/missing", {404, "text/plain", "gone", {}, false, 0});
+    server.route("/missing", {404, "text/plain", "gone", {}});
     QTcpServer closed;
     closed.listen(QHostAddress::LocalHost, 0);
-    const QString refused = QStringLiteral("http://127.0.0.1:%1/x").arg(closed.serverPort());
+    const QString refused = u"http://127.0.0.1:%1/x"_s.arg(closed.serverPort());
     closed.close();
 
     TempHome t;
-    const QString target = t.file(QStringLiteral("kept.txt"));
+    const QString target = t.file(u"kept.txt"_s);
     HttpTransfer http;
     http.setLimits(400, 1024 * 1024);
     Recorder r(http);
-    for (const QString& url :
-         {refused, server.url("/stall"), server.url("/huge"), server.url("/missing"),
-          QStringLiteral("not a url at all"), QString()}) {
+    for (const QString& url : {refused, server.url("/stall"), server.url("/huge"),
+                               server.url("/missing"), u"not a url at all"_s, QString()}) {
         writeBytes(target, "old contents");
         r.events.clear();
         http.setLocalFile(target);
@@ -110,8 +96,8 @@ TEST(HttpTransfer, FailuresEndCleanlyAndKeepOldFiles) {
         http.fetch();
         EXPECT_FALSE(http.succeeded()) << url.toStdString();
         EXPECT_FALSE(http.errorString().isEmpty());
-        EXPECT_EQ(r.events.back(), QStringLiteral("disconnected")) << url.toStdString();
-        EXPECT_FALSE(r.events.contains(QStringLiteral("ended"))) << url.toStdString();
+        EXPECT_EQ(r.events.back(), u"disconnected"_s) << url.toStdString();
+        EXPECT_FALSE(r.events.contains(u"ended"_s)) << url.toStdString();
         EXPECT_EQ(readBytes(target), QByteArray("old contents")) << url.toStdString();
     }
     // The large answer was cut at the limit, not read to its end.
@@ -124,14 +110,12 @@ TEST(HttpTransfer, FailuresEndCleanlyAndKeepOldFiles) {
 TEST(HttpTransfer, DecodePageChoosesTheCharset) {
     EXPECT_EQ(decodePage(QByteArray("\xEF\xBB\xBF"
                                     "caf\xC3\xA9")),
-              QStringLiteral("caf\u00e9"));
-    EXPECT_EQ(decodePage(QByteArray("<p>caf\xC3\xA9 \xE2\x82\xAC")),
-              QStringLiteral("<p>caf\u00e9 \u20ac"));
-    EXPECT_EQ(decodePage(QByteArray("<p>caf\xE9 \x80")), QStringLiteral("<p>caf\u00e9 \u20ac"));
+              u"caf\u00e9"_s);
+    EXPECT_EQ(decodePage(QByteArray("<p>caf\xC3\xA9 \xE2\x82\xAC")), u"<p>caf\u00e9 \u20ac"_s);
+    EXPECT_EQ(decodePage(QByteArray("<p>caf\xE9 \x80")), u"<p>caf\u00e9 \u20ac"_s);
     EXPECT_EQ(decodePage(QByteArray("<meta charset=\"iso-8859-1\">\xC3\xA9")),
-              QStringLiteral("<meta charset=\"iso-8859-1\">\u00c3\u00a9"));
-    EXPECT_EQ(decodePage(QByteArray("\xC3\xA9"), QStringLiteral("windows-1252")),
-              QStringLiteral("\u00c3\u00a9"));
+              u"<meta charset=\"iso-8859-1\">\u00c3\u00a9"_s);
+    EXPECT_EQ(decodePage(QByteArray("\xC3\xA9"), u"windows-1252"_s), u"\u00c3\u00a9"_s);
     EXPECT_EQ(decodePage(QByteArray()), QString());
 }
 
@@ -206,9 +190,9 @@ TEST(HttpTransfer, DecodingInPartsGivesTheWholeText) {
         {bad, {}},
         {"\xEF\xBB\xBF" + bad, {}},
         {"\xEF\xBB\xBF" + good, {}},
-        {bad, QStringLiteral("windows-1252")},
-        {good, QStringLiteral("iso-8859-1")},
-        {bad, QStringLiteral("utf-8")},
+        {bad, u"windows-1252"_s},
+        {good, u"iso-8859-1"_s},
+        {bad, u"utf-8"_s},
         {"<meta charset=\"utf-16le\">" + good, {}},
         // A second mark where a part of 64 KiB would begin, and characters across that point.
         {"\xEF\xBB\xBF" + QByteArray(65535, 'a') + "\xEF\xBB\xBF" + "b", {}},

@@ -22,6 +22,7 @@
 #include <gtest/gtest.h>
 
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 using namespace brevaro::test;
 
 namespace {
@@ -64,8 +65,7 @@ QVariant evaluate(QWebEnginePage* page, const QString& script) {
 }
 
 QString value(QWebEnginePage* page, const char* id) {
-    return evaluate(page,
-                    QStringLiteral("document.getElementById('%1').value").arg(QLatin1String(id)))
+    return evaluate(page, u"document.getElementById('%1').value"_s.arg(QLatin1String(id)))
         .toString();
 }
 
@@ -74,26 +74,24 @@ protected:
     void SetUp() override {
         m_oldServer = qgetenv("BREVARO_SERVER");
         qputenv("BREVARO_SERVER", m_server.url("").toUtf8());
-        const QString list = encipherField(QStringLiteral("Second Site"), siteListKey()) + u'|' +
-                             encipherField(m_server.url("/second"), siteListKey()) +
-                             QStringLiteral("\n");
+        const QString list = encipherField(u"Second Site"_s, siteListKey()) + u'|' +
+                             encipherField(m_server.url("/second"), siteListKey()) + u"\n"_s;
         m_server.route("/pad/SharewareSites/sharewaresites_cryptated.txt",
-                       {200, "text/plain", list.toLatin1(), {}, false, 0});
-        m_server.route("/unsignedpadfile.php", {200, "text/html", kFormPage, {}, false, 0});
-        m_server.route("/second", {200, "text/html", kUploadOnlyPage, {}, false, 0});
+                       {200, "text/plain", list.toLatin1(), {}});
+        m_server.route("/unsignedpadfile.php", {200, "text/html", kFormPage, {}});
+        m_server.route("/second", {200, "text/html", kUploadOnlyPage, {}});
         m_company.setText(CompanyField::CompanyName, u"Acme Tools");
         m_program.setText(ProgramField::ProgramName, u"Widget Pro");
         m_program.setText(ProgramField::ApplicationXMLFileURL, u"http://acme.example/widget.xml");
-        m_prompts.clipboard = QStringLiteral("held before");
+        m_prompts.clipboard = u"held before"_s;
     }
     void TearDown() override { qputenv("BREVARO_SERVER", m_oldServer); }
 
     // Writes the PAD file as Create PAD does, in the company's folder.
     QString createPad() {
-        const QString folder =
-            QDir(m_home.home().padFolder()).filePath(QStringLiteral("Acme Tools"));
+        const QString folder = QDir(m_home.home().padFolder()).filePath(u"Acme Tools"_s);
         QDir().mkpath(folder);
-        const QString path = folder + QStringLiteral("/widget.xml");
+        const QString path = folder + u"/widget.xml"_s;
         QString error;
         EXPECT_TRUE(writePadFiles(m_company, m_program, QString(), path, &error));
         return path;
@@ -113,119 +111,114 @@ TEST_F(SubmissionBrowserTest, OpensTheMakersPageAndFillsItsKnownInputs) {
     const QString padPath = createPad();
     SubmissionBrowser browser(m_company, m_program, m_home.path(), m_prompts);
     QSignalSpy filled(&browser, &SubmissionBrowser::knownFieldsFilled);
-    auto* user = browser.findChild<QLineEdit*>(QStringLiteral("txtUser"));
-    auto* password = browser.findChild<QLineEdit*>(QStringLiteral("txtPassword"));
+    auto* user = browser.findChild<QLineEdit*>(u"txtUser"_s);
+    auto* password = browser.findChild<QLineEdit*>(u"txtPassword"_s);
     ASSERT_TRUE(user && password);
-    QTest::keyClicks(user, QStringLiteral("me@acme.example"));
-    QTest::keyClicks(password, QStringLiteral("s3cret"));
+    QTest::keyClicks(user, u"me@acme.example"_s);
+    QTest::keyClicks(password, u"s3cret"_s);
     EXPECT_EQ(password->echoMode(), QLineEdit::Password);
-    EXPECT_EQ(browser.windowTitle(), QStringLiteral("Software Submission - [Quorin]"));
-    EXPECT_FALSE(browser.findChild<QTreeWidget*>(QStringLiteral("lstInfo"))->isEnabled());
+    EXPECT_EQ(browser.windowTitle(), u"Software Submission - [Quorin]"_s);
+    EXPECT_FALSE(browser.findChild<QTreeWidget*>(u"lstInfo"_s)->isEnabled());
 
     browser.show();
     ASSERT_TRUE(QTest::qWaitFor([&] { return filled.count() == 1; }, kPageTimeout));
     // The site list was fetched on opening: the maker's entry and the one listed.
     ASSERT_EQ(browser.siteList().sites().size(), 2u);
-    EXPECT_EQ(browser.siteList().sites()[1].name, QStringLiteral("Second Site"));
+    EXPECT_EQ(browser.siteList().sites()[1].name, u"Second Site"_s);
     EXPECT_EQ(browser.iex()->url().toString(), m_server.url("/unsignedpadfile.php"));
-    EXPECT_TRUE(browser.findChild<QTreeWidget*>(QStringLiteral("lstInfo"))->isEnabled());
+    EXPECT_TRUE(browser.findChild<QTreeWidget*>(u"lstInfo"_s)->isEnabled());
 
     QWebEnginePage* page = browser.iex()->page();
-    EXPECT_EQ(value(page, "first"), QStringLiteral("http://acme.example/widget.xml"));
+    EXPECT_EQ(value(page, "first"), u"http://acme.example/widget.xml"_s);
     EXPECT_EQ(value(page, "second"), QString()) << "only the first input of a name is filled";
-    EXPECT_EQ(value(page, "user"), QStringLiteral("me@acme.example"));
-    EXPECT_EQ(value(page, "secret"), QStringLiteral("s3cret"));
+    EXPECT_EQ(value(page, "user"), u"me@acme.example"_s);
+    EXPECT_EQ(value(page, "secret"), u"s3cret"_s);
     EXPECT_EQ(value(page, "plain"), QString()) << "the type must match too";
     // The upload field holds the PAD file itself, bytes and all.
-    EXPECT_EQ(evaluate(page, QStringLiteral("document.getElementById('upload').files.length")),
-              QVariant(1));
-    EXPECT_EQ(evaluate(page, QStringLiteral("document.getElementById('upload').files[0].name"))
-                  .toString(),
-              QStringLiteral("widget.xml"));
-    evaluate(page, QStringLiteral("document.getElementById('upload').files[0].text()"
-                                  ".then(function (t) { window.attached = t; }); 0"));
+    EXPECT_EQ(evaluate(page, u"document.getElementById('upload').files.length"_s), QVariant(1));
+    EXPECT_EQ(evaluate(page, u"document.getElementById('upload').files[0].name"_s).toString(),
+              u"widget.xml"_s);
+    evaluate(page, u"document.getElementById('upload').files[0].text()"
+                   ".then(function (t) { window.attached = t; }); 0"_s);
     QString attached;
     ASSERT_TRUE(QTest::qWaitFor(
         [&] {
-            attached = evaluate(page, QStringLiteral("window.attached || ''")).toString();
+            attached = evaluate(page, u"window.attached || ''"_s).toString();
             return !attached.isEmpty();
         },
         kPageTimeout));
     EXPECT_EQ(attached.toUtf8(), readBytes(padPath));
     // The upload is answered last; otherwise the page hears the events in document order.
-    EXPECT_EQ(evaluate(page, QStringLiteral("heard.join(' ')")).toString(),
-              QStringLiteral("input:first change:first input:user change:user input:secret "
-                             "change:secret input:upload change:upload"));
-    EXPECT_EQ(browser.findChild<QStatusBar*>(QStringLiteral("StatusBar1"))->currentMessage(),
-              QStringLiteral("Attached PAD file: ") + QDir::toNativeSeparators(padPath));
-    EXPECT_EQ(m_prompts.clipboard, QStringLiteral("held before"));
+    EXPECT_EQ(evaluate(page, u"heard.join(' ')"_s).toString(),
+              u"input:first change:first input:user change:user input:secret "
+              "change:secret input:upload change:upload"_s);
+    EXPECT_EQ(browser.findChild<QStatusBar*>(u"StatusBar1"_s)->currentMessage(),
+              u"Attached PAD file: "_s + QDir::toNativeSeparators(padPath));
+    EXPECT_EQ(m_prompts.clipboard, u"held before"_s);
 
     // Saving a screenshot for review when asked to.
     const QString shots = qEnvironmentVariable("BREVARO_SHOTS");
     if (!shots.isEmpty()) {
         QDir().mkpath(shots);
-        browser.grab().save(shots + QStringLiteral("/frmBrowser.png"));
+        browser.grab().save(shots + u"/frmBrowser.png"_s);
     }
 
     // A directory chosen from the site list: its name in the caption, its page loaded; without
     // a created PAD file the status says so.
     QFile::remove(padPath);
     browser.openChosenSite(m_server.url("/second"));
-    EXPECT_EQ(browser.windowTitle(), QStringLiteral("Software Submission - [Second Site]"));
+    EXPECT_EQ(browser.windowTitle(), u"Software Submission - [Second Site]"_s);
     ASSERT_TRUE(QTest::qWaitFor([&] { return filled.count() == 2; }, kPageTimeout));
-    EXPECT_EQ(browser.findChild<QLineEdit*>(QStringLiteral("txtURL"))->text(),
-              m_server.url("/second"));
-    EXPECT_EQ(browser.findChild<QStatusBar*>(QStringLiteral("StatusBar1"))->currentMessage(),
-              QStringLiteral("No PAD file has been created yet for Widget Pro: use Create PAD "
-                             "first"));
-    EXPECT_EQ(evaluate(browser.iex()->page(),
-                       QStringLiteral("document.getElementById('upload').files.length")),
+    EXPECT_EQ(browser.findChild<QLineEdit*>(u"txtURL"_s)->text(), m_server.url("/second"));
+    EXPECT_EQ(browser.findChild<QStatusBar*>(u"StatusBar1"_s)->currentMessage(),
+              u"No PAD file has been created yet for Widget Pro: use Create PAD "
+              "first"_s);
+    EXPECT_EQ(evaluate(browser.iex()->page(), u"document.getElementById('upload').files.length"_s),
               QVariant(0));
 }
 
 TEST_F(SubmissionBrowserTest, InfoListLabelAndCopyButtonsDriveTheModel) {
     SubmissionBrowser browser(m_company, m_program, m_home.path(), m_prompts);
-    auto* list = browser.findChild<QTreeWidget*>(QStringLiteral("lstInfo"));
-    auto* label = browser.findChild<QLabel*>(QStringLiteral("lblInfo"));
+    auto* list = browser.findChild<QTreeWidget*>(u"lstInfo"_s);
+    auto* label = browser.findChild<QLabel*>(u"lblInfo"_s);
     ASSERT_TRUE(list && label);
     ASSERT_EQ(list->topLevelItemCount(), 96);
     EXPECT_TRUE(list->isColumnHidden(0));
-    EXPECT_EQ(list->headerItem()->text(1), QStringLiteral("PAD Info - Doubleclick to Copy/Paste"));
+    EXPECT_EQ(list->headerItem()->text(1), u"PAD Info - Doubleclick to Copy/Paste"_s);
     browser.session().EnableControls();
     browser.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&browser));
 
     QTreeWidgetItem* heading = list->topLevelItem(0);
     emit list->itemDoubleClicked(heading, 1);
-    EXPECT_EQ(label->text(), QStringLiteral("Select Valid Field"));
+    EXPECT_EQ(label->text(), u"Select Valid Field"_s);
     EXPECT_EQ(label->palette().color(QPalette::WindowText), QColor(Qt::red));
     EXPECT_TRUE(label->font().bold());
     EXPECT_EQ(m_prompts.beeps, 1);
     emit list->itemDoubleClicked(list->topLevelItem(1), 1);
-    EXPECT_EQ(m_prompts.clipboard, QStringLiteral("Acme Tools"));
-    EXPECT_EQ(label->text(), QStringLiteral("Acme Tools"));
+    EXPECT_EQ(m_prompts.clipboard, u"Acme Tools"_s);
+    EXPECT_EQ(label->text(), u"Acme Tools"_s);
     EXPECT_FALSE(label->font().bold());
     EXPECT_NE(label->palette().color(QPalette::WindowText), QColor(Qt::red));
 
     // Copy button 2 copies the main category; an edited box is copied as it stands.
-    auto* mainCat = browser.findChild<QLineEdit*>(QStringLiteral("txtMainCat"));
+    auto* mainCat = browser.findChild<QLineEdit*>(u"txtMainCat"_s);
     mainCat->clear();
-    QTest::keyClicks(mainCat, QStringLiteral("Utilities"));
-    QTest::mouseClick(browser.findChild<QWidget*>(QStringLiteral("cmdCopyWebInfo2ClipBoard_2")),
-                      Qt::LeftButton);
-    EXPECT_EQ(m_prompts.clipboard, QStringLiteral("Utilities"));
+    QTest::keyClicks(mainCat, u"Utilities"_s);
+    QTest::mouseClick(browser.findChild<QWidget*>(u"cmdCopyWebInfo2ClipBoard_2"_s), Qt::LeftButton);
+    EXPECT_EQ(m_prompts.clipboard, u"Utilities"_s);
     EXPECT_EQ(mainCat->palette().color(QPalette::Base), QColor(Qt::black)) << "the copy flash";
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return mainCat->palette().color(QPalette::Base) != QColor(Qt::black); }, 2000));
-    browser.findChild<QPushButton*>(QStringLiteral("cmdRefresh_3"))->click();
+    browser.findChild<QPushButton*>(u"cmdRefresh_3"_s)->click();
     // "Directories" shows the download-site list over the browser.
-    auto* directories = browser.findChild<QPushButton*>(QStringLiteral("cmdRefresh_2"));
+    auto* directories = browser.findChild<QPushButton*>(u"cmdRefresh_2"_s);
     QSignalSpy asked(&browser, &SubmissionBrowser::directoriesRequested);
     browser.session().EnableControls();
     ASSERT_TRUE(directories->isEnabled());
     bool listShown = false;
     QTimer::singleShot(0, &browser, [&] {
-        if (auto* list = browser.findChild<QDialog*>(QStringLiteral("frmSharewareSites"))) {
+        if (auto* list = browser.findChild<QDialog*>(u"frmSharewareSites"_s)) {
             listShown = list->isVisible();
             list->reject();
         }
@@ -233,5 +226,5 @@ TEST_F(SubmissionBrowserTest, InfoListLabelAndCopyButtonsDriveTheModel) {
     directories->click();
     EXPECT_EQ(asked.count(), 1);
     EXPECT_TRUE(listShown);
-    EXPECT_EQ(m_prompts.opened, QStringList{QStringLiteral("http://acme.example/widget.xml")});
+    EXPECT_EQ(m_prompts.opened, QStringList{u"http://acme.example/widget.xml"_s});
 }

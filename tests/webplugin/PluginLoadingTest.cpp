@@ -33,9 +33,8 @@ bool webEngineMapped() {
 // This executable links no web code, like the program: the browser comes from the plugin.
 TEST(SubmissionPlugin, LoadedOnFirstUseFromBesideTheProgram) {
     LocalHttpServer server;
-    server.route(
-        "/unsignedpadfile.php",
-        {200, "text/html", "<html><body><input name=padfile></body></html>", {}, false, 0});
+    server.route("/unsignedpadfile.php",
+                 {200, "text/html", "<html><body><input name=padfile></body></html>", {}});
     const QByteArray oldServer = qgetenv("BREVARO_SERVER");
     qputenv("BREVARO_SERVER", server.url("").toUtf8());
     TempHome home;
