@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 using namespace brevaro::test;
 
 namespace {
@@ -14,7 +15,7 @@ namespace {
 QString listed(const KeywordList& list) {
     QStringList out;
     for (const auto& e : list.entries())
-        out << e.word + u'=' + e.countText() + (e.ticked ? QStringLiteral("*") : QString());
+        out << e.word + u'=' + e.countText() + (e.ticked ? u"*"_s : QString());
     return out.join(u' ');
 }
 
@@ -27,83 +28,70 @@ QString counted(const QString& page) {
 } // namespace
 
 TEST(KeywordList, CleaningRules) {
-    EXPECT_EQ(KeywordList::CleanWord(u"Software."), QStringLiteral("Software"));
-    EXPECT_EQ(KeywordList::CleanWord(u"don't"), QStringLiteral("dont"));
-    EXPECT_EQ(KeywordList::CleanWord(u"(free)"), QStringLiteral("free"));
-    EXPECT_EQ(KeywordList::CleanWord(u"\u00a9tools!"), QStringLiteral("tools"));
+    EXPECT_EQ(KeywordList::CleanWord(u"Software."), u"Software"_s);
+    EXPECT_EQ(KeywordList::CleanWord(u"don't"), u"dont"_s);
+    EXPECT_EQ(KeywordList::CleanWord(u"(free)"), u"free"_s);
+    EXPECT_EQ(KeywordList::CleanWord(u"\u00a9tools!"), u"tools"_s);
     for (auto rejected : {u"win32", u"e-mail", u"<b>", u"href=x", u"50%", u"&nbsp;", u"a@b", u"{x}",
                           u"The", u"THE", u"the", u"your", u"...", u"\"\""})
         EXPECT_EQ(KeywordList::CleanWord(QStringView(rejected)), QString())
             << QString::fromUtf16(rejected).toStdString();
 }
 
-// Prefix matching, ties and case are held against a plain scan below; here, what a word is.
-TEST(KeywordList, OnlyBlanksSeparateWords) {
-    EXPECT_EQ(counted(QStringLiteral("Software. software ")), QStringLiteral("Software=002"));
-    // The last word after the final blank is never counted.
-    EXPECT_EQ(counted(QStringLiteral("first\r\nsecond tail")), QStringLiteral("firstsecond=001"));
-    EXPECT_EQ(counted(QStringLiteral("nowhitespace")), QString());
-    EXPECT_EQ(counted(QStringLiteral("a\tb  c ")), QStringLiteral("ab=001 c=001"));
-}
+// What a word is (prefix matching, ties and case are held against a plain scan below), counts
+// past 999, and sorting by either column.
+TEST(KeywordList, WordsCountsAndSorting) {
+    const std::pair<QString, QString> pages[] = {
+        {u"Software. software "_s, u"Software=002"_s},
+        {u"first\r\nsecond tail"_s, u"firstsecond=001"_s}, // the last word is never counted
+        {u"nowhitespace"_s, QString()},
+        {u"a\tb  c "_s, u"ab=001 c=001"_s},
+        {u"widget "_s.repeated(2000) + u"gadget gadget "_s, u"widget=2000 gadget=002"_s}};
+    for (const auto& [page, expected] : pages)
+        EXPECT_EQ(counted(page), expected) << page.left(40).toStdString();
 
-TEST(KeywordList, CountsPastNineHundredNinetyNine) {
     KeywordList list;
-    QString page;
-    for (int i = 0; i < 2000; ++i)
-        page += QStringLiteral("widget ");
-    list.SplitWords(QString(page + QStringLiteral("gadget gadget ")));
-    EXPECT_EQ(listed(list), QStringLiteral("widget=2000 gadget=002"));
-    KeywordEntry e{QStringLiteral("x"), 42, false};
-    EXPECT_EQ(e.countText(), QStringLiteral("042"));
+    list.SplitWords(u"beta alpha beta Gamma "_s);
+    list.sortByColumn(0);
+    EXPECT_EQ(listed(list), u"alpha=001 beta=002 Gamma=001"_s);
+    list.sortByColumn(1);
+    EXPECT_EQ(listed(list), u"beta=002 alpha=001 Gamma=001"_s);
 }
 
 TEST(KeywordList, TickingAndRebuilding) {
     KeywordList list;
-    list.SplitWords(QStringLiteral("once twice twice thrice thrice thrice four four four four "));
+    list.SplitWords(u"once twice twice thrice thrice thrice four four four four "_s);
     list.CheckFrequentWords();
-    EXPECT_EQ(listed(list), QStringLiteral("four=004* thrice=003* twice=002 once=001"));
-    EXPECT_EQ(list.RebuildKeywords(QStringLiteral("old")), QStringLiteral("four, thrice"));
+    EXPECT_EQ(listed(list), u"four=004* thrice=003* twice=002 once=001"_s);
+    EXPECT_EQ(list.RebuildKeywords(u"old"_s), u"four, thrice"_s);
     list.setTicked(2, true);
-    EXPECT_EQ(list.RebuildKeywords(QString()), QStringLiteral("four, thrice, twice"));
+    EXPECT_EQ(list.RebuildKeywords(QString()), u"four, thrice, twice"_s);
 
     // A word that does not fit is skipped and a later, shorter one still taken.
     KeywordList longWords;
     QString page;
     const QString w120(120, u'w');
     for (int i = 0; i < 3; ++i)
-        page += w120 + u' ' + QString(129, u'x') + QStringLiteral(" longish short ");
+        page += w120 + u' ' + QString(129, u'x') + u" longish short "_s;
     longWords.SplitWords(page);
     longWords.CheckFrequentWords();
     const QString built = longWords.RebuildKeywords(QString());
-    EXPECT_EQ(built, w120 + QStringLiteral(", short"));
+    EXPECT_EQ(built, w120 + u", short"_s);
     EXPECT_LE(built.size(), 128);
 
     // Nothing fits: the box keeps its text.
     KeywordList none;
     none.SplitWords(QString(QString(200, u'y') + u' ').repeated(3));
     none.CheckFrequentWords();
-    EXPECT_EQ(none.RebuildKeywords(QStringLiteral("kept")), QStringLiteral("kept"));
-}
-
-TEST(KeywordList, ColumnSorting) {
-    KeywordList list;
-    list.SplitWords(QStringLiteral("beta alpha beta Gamma "));
-    list.sortByColumn(0);
-    EXPECT_EQ(listed(list), QStringLiteral("alpha=001 beta=002 Gamma=001"));
-    list.sortByColumn(1);
-    EXPECT_EQ(listed(list), QStringLiteral("beta=002 alpha=001 Gamma=001"));
+    EXPECT_EQ(none.RebuildKeywords(u"kept"_s), u"kept"_s);
 }
 
 TEST_F(SessionTest, KeywordSuggesterFetchesAndFillsTheSelectedLanguage) {
     LocalHttpServer server;
-    server.route("/home", {200,
-                           "text/html; charset=utf-8",
-                           "<html> Editor editor EDITOR fast fast fast notes notes </html>",
-                           {},
-                           false,
-                           0});
-    addCompany(QStringLiteral("Acme"));
-    addProgram(QStringLiteral("Widget"));
+    const QByteArray page = "<html> Editor editor EDITOR fast fast fast notes notes </html>";
+    server.route("/home", {200, "text/html; charset=utf-8", page, {}});
+    addCompany(u"Acme"_s);
+    addProgram(u"Widget"_s);
     type(u"txtApplicationHomeURL", server.url("/home"));
     command(ControlAction::SaveProgram);
     screen().setListIndex(id(u"SSTab2"), 2);
@@ -113,24 +101,24 @@ TEST_F(SessionTest, KeywordSuggesterFetchesAndFillsTheSelectedLanguage) {
         if (const auto keywords = suggester.accept())
             session->assistance().applyKeywords(*keywords);
     };
-    EXPECT_EQ(suggester.caption, QStringLiteral("Suggesting Keywords for: Widget"));
+    EXPECT_EQ(suggester.caption, u"Suggesting Keywords for: Widget"_s);
     suggester.checkHomepage();
-    EXPECT_EQ(listed(suggester.list()), QStringLiteral("Editor=003* fast=003* notes=002"));
-    EXPECT_EQ(suggester.keywords, QStringLiteral("Editor, fast"));
-    EXPECT_EQ(suggester.status, QStringLiteral("Disconnected, Done ..."));
+    EXPECT_EQ(listed(suggester.list()), u"Editor=003* fast=003* notes=002"_s);
+    EXPECT_EQ(suggester.keywords, u"Editor, fast"_s);
+    EXPECT_EQ(suggester.status, u"Disconnected, Done ..."_s);
     ok();
-    EXPECT_EQ(text(u"txtKeywords", 2), QStringLiteral("Editor, fast"));
+    EXPECT_EQ(text(u"txtKeywords", 2), u"Editor, fast"_s);
     EXPECT_EQ(text(u"txtKeywords", 0), QString());
     EXPECT_TRUE(session->state().ProgramDirty);
 
     // A dead address leaves the list empty and the text as it was.
-    suggester.url = QStringLiteral("http://127.0.0.1:1/");
+    suggester.url = u"http://127.0.0.1:1/"_s;
     suggester.checkHomepage();
     EXPECT_EQ(suggester.list().size(), 0);
-    EXPECT_EQ(suggester.keywords, QStringLiteral("Editor, fast"));
-    suggester.keywords = QStringLiteral("   ");
+    EXPECT_EQ(suggester.keywords, u"Editor, fast"_s);
+    suggester.keywords = u"   "_s;
     ok();
-    EXPECT_EQ(text(u"txtKeywords", 2), QStringLiteral("Editor, fast"));
+    EXPECT_EQ(text(u"txtKeywords", 2), u"Editor, fast"_s);
 }
 
 namespace {
@@ -195,23 +183,10 @@ quint32 nextRandom(quint32& seed) {
 // letters, and for a second text counted into a list that is already sorted.
 TEST(KeywordList, AgreesWithAPlainScanOfTheList) {
     const QString z60(60, u'z');
-    const QStringList stems = {QStringLiteral("pro"),
-                               QStringLiteral("Prog"),
-                               QStringLiteral("program"),
-                               QStringLiteral("programs"),
-                               QStringLiteral("PROGRAMMER"),
-                               QStringLiteral("p"),
-                               QStringLiteral("edit"),
-                               QStringLiteral("Editor"),
-                               QStringLiteral("editing"),
-                               QStringLiteral("abcdefghijklmn"),
-                               QStringLiteral("abcdefghijkl"),
-                               QStringLiteral("ABCDEFGHIJKLMNOP"),
-                               QStringLiteral("abcdefghijklmxq"),
-                               QStringLiteral("abcdefghijklmyqq"),
-                               z60,
-                               z60 + QStringLiteral("y"),
-                               QString(55, u'z')};
+    const QStringList stems =
+        u"pro Prog program programs PROGRAMMER p edit Editor editing abcdefghijklmn abcdefghijkl "
+        u"ABCDEFGHIJKLMNOP abcdefghijklmxq abcdefghijklmyqq"_s.split(u' ')
+        << z60 << z60 + u'y' << QString(55, u'z');
     quint32 seed = 7;
     QStringList fromStems;
     QStringList moreStems;
@@ -221,7 +196,7 @@ TEST(KeywordList, AgreesWithAPlainScanOfTheList) {
         fromStems << stems[int(nextRandom(seed) % stems.size())];
     for (int i = 0; i < 500; ++i)
         moreStems << stems[int(nextRandom(seed) % stems.size())];
-    const QString letters = QStringLiteral("xyuXY\u00e9\u00c9\u03a9\u0174");
+    const QString letters = u"xyuXY\u00e9\u00c9\u03a9\u0174"_s;
     for (QStringList* words : {&shortWords, &moreShortWords})
         for (int i = 0; i < 3000; ++i) {
             QString w;
@@ -239,19 +214,15 @@ TEST(KeywordList, AgreesWithAPlainScanOfTheList) {
 // then sorts: with punctuation, stop words, rejected words, a piece longer than the batches
 // SplitWords works in, and runs of blanks. Counting the text in parts gives the same.
 TEST(KeywordList, SplittingCountsAsCountWordDoes) {
-    const QStringList parts = {QStringLiteral("Soft."),         QStringLiteral("software"),
-                               QStringLiteral("SOFT"),          QStringLiteral("the"),
-                               QStringLiteral("(free)"),        QStringLiteral("free!"),
-                               QStringLiteral("win32"),         QStringLiteral("\u00a9Tools"),
-                               QStringLiteral("tools\r\n"),     QStringLiteral("\u00c9t\u00e9"),
-                               QStringLiteral("\u00e9T\u00c9"), QStringLiteral(""),
-                               QStringLiteral("don't"),         QStringLiteral("a\tb")};
+    const QStringList parts =
+        u"Soft.|software|SOFT|the|(free)|free!|win32|\u00a9Tools|tools\r\n|\u00c9t\u00e9|"
+        u"\u00e9T\u00c9||don't|a\tb"_s.split(u'|');
     quint32 seed = 11;
     QString text;
     for (int i = 0; i < 5000; ++i) {
         text += parts[int(nextRandom(seed) % parts.size())] + u' ';
         if (i == 2500)
-            text += QString(9000, u'q') + QStringLiteral(" ") + QString(9001, u'Q') + u' ';
+            text += QString(9000, u'q') + u" "_s + QString(9001, u'Q') + u' ';
     }
     KeywordList split;
     split.SplitWords(text);

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 using namespace brevaro::test;
 
 namespace {
@@ -26,58 +27,51 @@ QString numberOf(const std::vector<InfoEntry>& list, const char* label) {
 
 } // namespace
 
+// Running numbers; groups of a heading, field rows and a closing separator; every field row of
+// full records shows a value of its own, none read twice.
 TEST(InfoList, EveryHeadingRowAndSeparatorInOrder) {
     const auto list = FillInfoList(fullCompany(), fullProgram());
-    // 16 groups of 64 rows in all, each with a heading and a closing separator.
-    ASSERT_EQ(list.size(), 16u + 64u + 16u);
-    QStringList headings;
+    QStringList values;
     int groupRows = -1;
-    QList<int> rowsPerGroup;
     for (std::size_t i = 0; i < list.size(); ++i) {
         const InfoEntry& e = list[i];
+        SCOPED_TRACE(e.label.toStdString());
         EXPECT_EQ(e.number, QString::number(i + 1));
-        if (e.label.startsWith(u'>')) {
-            headings << e.label;
-            EXPECT_TRUE(e.value.isEmpty()) << e.label.toStdString();
-            EXPECT_FALSE(e.isField());
+        const bool heading = e.label.startsWith(u'>'), separator = e.label == u"-";
+        EXPECT_EQ(e.isField(), !heading && !separator);
+        EXPECT_EQ(e.value.isEmpty(), !e.isField());
+        if (heading) {
             EXPECT_EQ(groupRows, -1) << "heading inside a group";
             groupRows = 0;
-        } else if (e.label == u"-") {
-            EXPECT_TRUE(e.value.isEmpty());
-            EXPECT_FALSE(e.isField());
-            rowsPerGroup << groupRows;
+        } else if (separator) {
+            EXPECT_GT(groupRows, 0) << "an empty group";
             groupRows = -1;
         } else {
-            EXPECT_TRUE(e.isField());
-            EXPECT_FALSE(e.value.isEmpty()) << e.label.toStdString();
+            EXPECT_GE(groupRows, 0) << "a row outside a group";
+            EXPECT_FALSE(values.contains(e.value));
+            values << e.value;
             ++groupRows;
         }
     }
     EXPECT_EQ(groupRows, -1) << "the last group has no separator";
-    EXPECT_EQ(headings.first(), QStringLiteral("> COMPANY INFO <"));
-    EXPECT_EQ(headings.last(), QStringLiteral("> TPA <"));
-    EXPECT_EQ(headings.size(), 16);
-    EXPECT_EQ(rowsPerGroup, (QList<int>{8, 3, 3, 3, 4, 9, 7, 3, 4, 6, 5, 4, 1, 1, 1, 2}));
-    // Labels as the list shows them, with the record field each one reads.
-    EXPECT_EQ(list[1].label, QStringLiteral("Company Name"));
-    EXPECT_EQ(list[1].value, QStringLiteral("CompanyName"));
-    EXPECT_EQ(byLabel(list, "Adress 2").value, QStringLiteral("Address2"));
-    EXPECT_EQ(byLabel(list, "Homepage URL").value, QStringLiteral("CompanyWebSiteURL"));
-    EXPECT_EQ(byLabel(list, "Phone Fax").value, QStringLiteral("FaxPhone"));
-    EXPECT_EQ(byLabel(list, "Possible Categories").value, QStringLiteral("CategoryClass"));
-    EXPECT_EQ(byLabel(list, "Third Download URL").value, QStringLiteral("AdditionalDownloadURL1"));
-    EXPECT_EQ(byLabel(list, "sTPA_LicenseType").value, QStringLiteral("TrialLicenseType"));
-    EXPECT_EQ(byLabel(list, "sASP_MemberNo").value, QStringLiteral("ASPMemberNumber"));
-    // Descriptions are the first (English) language's.
-    EXPECT_EQ(byLabel(list, "Keywords").value, QStringLiteral("Keywords0"));
-    EXPECT_EQ(byLabel(list, "2000 char").value, QStringLiteral("CharDesc20000"));
-    // Dates joined from their three fields; line breaks inside a value stay.
-    EXPECT_EQ(byLabel(list, "Release Date").value, QStringLiteral("07/04/2008"));
-    EXPECT_EQ(byLabel(list, "Expire Date").value, QStringLiteral("12/31/2010"));
-    EXPECT_EQ(byLabel(list, "EULA").value,
-              QStringLiteral("EULA first line\r\nsecond line & <more>"));
-    EXPECT_EQ(numberOf(list, "> PROGRAM INFO <").toInt() + 3,
-              numberOf(list, "Release Date").toInt());
+    // Labels as the list shows them, with the record field each one reads; descriptions are the
+    // first (English) language's; dates joined from their three fields; line breaks stay.
+    const std::pair<const char*, QString> rows[] = {
+        {"Company Name", u"CompanyName"_s},
+        {"Adress 2", u"Address2"_s},
+        {"Homepage URL", u"CompanyWebSiteURL"_s},
+        {"Phone Fax", u"FaxPhone"_s},
+        {"Possible Categories", u"CategoryClass"_s},
+        {"Third Download URL", u"AdditionalDownloadURL1"_s},
+        {"sTPA_LicenseType", u"TrialLicenseType"_s},
+        {"sASP_MemberNo", u"ASPMemberNumber"_s},
+        {"Keywords", u"Keywords0"_s},
+        {"2000 char", u"CharDesc20000"_s},
+        {"Release Date", u"07/04/2008"_s},
+        {"Expire Date", u"12/31/2010"_s},
+        {"EULA", u"EULA first line\r\nsecond line & <more>"_s}};
+    for (const auto& [label, value] : rows)
+        EXPECT_EQ(byLabel(list, label).value, value) << label;
 }
 
 TEST(InfoList, TrimmingEmptyValuesAndPartialDates) {
@@ -91,90 +85,69 @@ TEST(InfoList, TrimmingEmptyValuesAndPartialDates) {
     program.setText(ProgramField::Keywords, u"second language", 1);
     program.setText(ProgramField::ChangeInfo, u"\tfixed a crash ");
     const auto list = FillInfoList(company, program);
-    EXPECT_EQ(byLabel(list, "Company Name").value, QStringLiteral("Acme Tools"));
+    EXPECT_EQ(byLabel(list, "Company Name").value, u"Acme Tools"_s);
     EXPECT_EQ(byLabel(list, "Country").value, QString());
     // The two-character month stands as it is, blank included.
-    EXPECT_EQ(byLabel(list, "Release Date").value, QStringLiteral("7 /04/2008"));
+    EXPECT_EQ(byLabel(list, "Release Date").value, u"7 /04/2008"_s);
     // An empty date keeps its slashes and the blanks between them.
-    EXPECT_EQ(byLabel(list, "Expire Date").value, QStringLiteral("/  /"));
+    EXPECT_EQ(byLabel(list, "Expire Date").value, u"/  /"_s);
     EXPECT_EQ(byLabel(list, "Keywords").value, QString());
     // Only blanks are trimmed, never tabs.
-    EXPECT_EQ(byLabel(list, "Recent Changes").value, QStringLiteral("\tfixed a crash"));
-    EXPECT_EQ(list.size(), 96u);
-}
-
-TEST(InfoList, PreviewCutsAfter36Characters) {
+    EXPECT_EQ(byLabel(list, "Recent Changes").value, u"\tfixed a crash"_s);
+    EXPECT_EQ(list.size(), 96u) << "empty values are listed too";
+    // The label's preview cuts after 36 characters.
     const QString exact(36, u'x');
     EXPECT_EQ(infoPreview(exact), exact);
-    EXPECT_EQ(infoPreview(exact + u'y'), exact + QStringLiteral(" ..."));
-    EXPECT_EQ(infoPreview(QString()), QString());
+    EXPECT_EQ(infoPreview(exact + u'y'), exact + u" ..."_s);
 }
 
-TEST(InfoList, PickingAndDoubleClickingEntries) {
+TEST(InfoList, PickingDoubleClickingAndCopying) {
     const CompanyRecord company = fullCompany();
     ProgramRecord program = fullProgram();
-    program.setText(ProgramField::CharDesc80,
-                    u"A very long description that is longer than the label shows");
+    const QString long80 = u"A very long description that is longer than the label shows"_s;
+    program.setText(ProgramField::CharDesc80, long80);
     program.setText(ProgramField::ProgramType, u"");
     ScriptedPrompts prompts;
-    prompts.clipboard = QStringLiteral("earlier");
+    prompts.clipboard = u"earlier"_s;
     SubmissionSession s(company, program, prompts);
     s.load();
     const auto& list = s.lstInfo();
-    EXPECT_EQ(s.lblInfo.text, QStringLiteral("Doubleclick in list to copy to Clipboard"));
+    auto shown = [&] {
+        return QString(s.lblInfo.text + (s.lblInfo.red ? u"|red"_s : QString()) +
+                       (s.lblInfo.bold ? u"|bold"_s : QString()));
+    };
+    EXPECT_EQ(shown(), u"Doubleclick in list to copy to Clipboard"_s);
 
     s.clickEntry(numberOf(list, "80 char"));
-    EXPECT_EQ(s.lblInfo.text, QStringLiteral("A very long description that is long ..."));
-    EXPECT_FALSE(s.lblInfo.red);
-    EXPECT_FALSE(s.lblInfo.bold);
-    EXPECT_EQ(prompts.clipboard, QStringLiteral("earlier")) << "a click copies nothing";
-
+    EXPECT_EQ(shown(), u"A very long description that is long ..."_s);
+    EXPECT_EQ(prompts.clipboard, u"earlier"_s) << "a click copies nothing";
     for (const char* nonField : {"> AUTHOR <", "-"}) {
         s.clickEntry(numberOf(list, nonField));
-        EXPECT_EQ(s.lblInfo.text, QString());
-        EXPECT_TRUE(s.lblInfo.red);
-        EXPECT_TRUE(s.lblInfo.bold);
+        EXPECT_EQ(shown(), u"|red|bold"_s);
         s.doubleClickEntry(numberOf(list, nonField));
-        EXPECT_EQ(s.lblInfo.text, QStringLiteral("Select Valid Field"));
-        EXPECT_TRUE(s.lblInfo.red);
-        EXPECT_TRUE(s.lblInfo.bold);
+        EXPECT_EQ(shown(), u"Select Valid Field|red|bold"_s);
     }
     EXPECT_EQ(prompts.beeps, 2);
-    EXPECT_EQ(prompts.clipboard, QStringLiteral("earlier"));
+    EXPECT_EQ(prompts.clipboard, u"earlier"_s);
 
     s.doubleClickEntry(numberOf(list, "80 char"));
-    EXPECT_EQ(prompts.clipboard,
-              QStringLiteral("A very long description that is longer than the label shows"));
-    EXPECT_EQ(s.lblInfo.text, QStringLiteral("A very long description that is long ..."));
-    EXPECT_FALSE(s.lblInfo.red);
-    EXPECT_FALSE(s.lblInfo.bold);
+    EXPECT_EQ(prompts.clipboard, long80);
+    EXPECT_EQ(shown(), u"A very long description that is long ..."_s);
     s.doubleClickEntry(numberOf(list, "Release Date"));
-    EXPECT_EQ(prompts.clipboard, QStringLiteral("07/04/2008"));
+    EXPECT_EQ(prompts.clipboard, u"07/04/2008"_s);
     EXPECT_EQ(prompts.beeps, 2);
 
-    // An empty field: nothing is copied, "Empty" and a beep.
+    // An empty field: nothing is copied, "Empty" and a beep; an unknown number changes nothing.
     s.doubleClickEntry(numberOf(list, "Type"));
-    EXPECT_EQ(s.lblInfo.text, QStringLiteral("Empty"));
-    EXPECT_FALSE(s.lblInfo.red);
+    s.doubleClickEntry(u"999"_s);
+    EXPECT_EQ(shown(), u"Empty"_s);
     EXPECT_EQ(prompts.beeps, 3);
-    EXPECT_EQ(prompts.clipboard, QStringLiteral("07/04/2008"));
+    EXPECT_EQ(prompts.clipboard, u"07/04/2008"_s);
 
-    // The running number finds the entry; an unknown one changes nothing.
-    s.doubleClickEntry(QStringLiteral("999"));
-    EXPECT_EQ(s.lblInfo.text, QStringLiteral("Empty"));
-    EXPECT_EQ(prompts.beeps, 3);
-}
-
-TEST(InfoList, CopyToClipboardTrimsBlanksOnly) {
-    const CompanyRecord company;
-    const ProgramRecord program;
-    ScriptedPrompts prompts;
-    SubmissionSession s(company, program, prompts);
-    s.CopyToClipboard(QStringLiteral("  two\r\nlines \t "));
-    EXPECT_EQ(prompts.clipboard, QStringLiteral("two\r\nlines \t"));
-    EXPECT_EQ(prompts.beeps, 0);
-    s.CopyToClipboard(QStringLiteral("    "));
-    EXPECT_EQ(s.lblInfo.text, QStringLiteral("Empty"));
-    EXPECT_EQ(prompts.beeps, 1);
-    EXPECT_EQ(prompts.clipboard, QStringLiteral("two\r\nlines \t"));
+    // Copying trims blanks only; nothing but blanks is empty.
+    s.CopyToClipboard(u"  two\r\nlines \t "_s);
+    EXPECT_EQ(prompts.clipboard, u"two\r\nlines \t"_s);
+    s.CopyToClipboard(u"    "_s);
+    EXPECT_EQ(prompts.beeps, 4);
+    EXPECT_EQ(prompts.clipboard, u"two\r\nlines \t"_s);
 }

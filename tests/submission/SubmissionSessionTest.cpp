@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 using namespace brevaro::test;
 
 namespace {
@@ -36,29 +37,26 @@ TEST(SubmissionSession, DefaultSiteCaptionAndChosenSite) {
     const ProgramRecord program = fullProgram();
     ScriptedPrompts prompts;
     SubmissionSession s(company, program, prompts);
+    auto site = [](const SubmissionSession& x) {
+        return QStringList{x.SiteName, x.SiteURL, x.txtURL, x.caption}.join(u'|');
+    };
     s.load();
-    EXPECT_EQ(s.SiteURL, QStringLiteral("http://127.0.0.1:9/unsignedpadfile.php"));
-    EXPECT_EQ(s.txtURL, s.SiteURL);
-    EXPECT_EQ(s.SiteName, QStringLiteral("Quorin"));
-    EXPECT_EQ(s.caption, QStringLiteral("Software Submission - [Quorin]"));
+    EXPECT_EQ(site(s), u"Quorin|http://127.0.0.1:9/unsignedpadfile.php|"
+                       u"http://127.0.0.1:9/unsignedpadfile.php|Software Submission - [Quorin]"_s);
     EXPECT_FALSE(s.controlsEnabled) << "disabled until the first page has loaded";
-    EXPECT_EQ(s.lstInfo().size(), 96u);
-
-    s.setSite(QStringLiteral("  Big Downloads "), QStringLiteral(" http://big.example/add "));
-    EXPECT_EQ(s.SiteName, QStringLiteral("Big Downloads"));
-    EXPECT_EQ(s.SiteURL, QStringLiteral("http://big.example/add"));
-    EXPECT_EQ(s.txtURL, QStringLiteral("http://big.example/add"));
-    EXPECT_EQ(s.caption, QStringLiteral("Software Submission - [Big Downloads]"));
-    s.setSite(QStringLiteral("   "), QStringLiteral("http://x.example/"));
-    EXPECT_EQ(s.caption, QStringLiteral("Software Submission - [Unknown]"));
+    s.setSite(u"  Big Downloads "_s, u" http://big.example/add "_s);
+    EXPECT_EQ(site(s), u"Big Downloads|http://big.example/add|http://big.example/add|"
+                       u"Software Submission - [Big Downloads]"_s);
+    s.setSite(u"   "_s, u"http://x.example/"_s);
+    EXPECT_EQ(s.caption, u"Software Submission - [Unknown]"_s);
 
     // A site set before loading is kept.
     SubmissionSession chosen(company, program, prompts);
-    chosen.SiteURL = QStringLiteral("http://chosen.example/");
-    chosen.SiteName = QStringLiteral("Chosen");
+    chosen.SiteURL = u"http://chosen.example/"_s;
+    chosen.SiteName = u"Chosen"_s;
     chosen.load();
-    EXPECT_EQ(chosen.txtURL, QStringLiteral("http://chosen.example/"));
-    EXPECT_EQ(chosen.caption, QStringLiteral("Software Submission - [Chosen]"));
+    EXPECT_EQ(site(chosen), u"Chosen|http://chosen.example/|http://chosen.example/|"
+                            u"Software Submission - [Chosen]"_s);
 }
 
 TEST(SubmissionSession, ProductPanelAndCopyButtons) {
@@ -70,13 +68,8 @@ TEST(SubmissionSession, ProductPanelAndCopyButtons) {
     SubmissionSession s(company, program, prompts);
     s.load();
     using S = SubmissionSession;
-    EXPECT_EQ(s.product(S::ProductName), QStringLiteral("Widget Pro"));
-    EXPECT_EQ(s.product(S::ProductVersion), QStringLiteral("2.1.0"));
-    EXPECT_EQ(s.product(S::PadFileUrl), QStringLiteral("ApplicationXMLFileURL"));
-    EXPECT_EQ(s.product(S::MainCategory), QStringLiteral("SpecificCategory"));
-    EXPECT_EQ(s.product(S::SubCategory), QStringLiteral("CategoryClass"));
-
-    // The copy buttons by index: name, version, main category, PAD file address, sub category.
+    // The copy buttons by index: name (trimmed), version, main category, PAD file address, sub
+    // category.
     QStringList events;
     QObject::connect(&s, &S::flashStarted, [&](S::Product p) {
         events << u"on " + S::productControl(p) + u' ' + prompts.clipboard;
@@ -85,33 +78,27 @@ TEST(SubmissionSession, ProductPanelAndCopyButtons) {
         events << u"off " + S::productControl(p) + u' ' + prompts.clipboard;
     });
     prompts.onPump = [&] {
-        events << QStringLiteral("pump");
+        events << u"pump"_s;
     };
-    const QStringList copied = {
-        QStringLiteral("Widget Pro"), QStringLiteral("2.1.0"), QStringLiteral("SpecificCategory"),
-        QStringLiteral("ApplicationXMLFileURL"), QStringLiteral("CategoryClass")};
+    const QStringList copied = {u"Widget Pro"_s, u"2.1.0"_s, u"SpecificCategory"_s,
+                                u"ApplicationXMLFileURL"_s, u"CategoryClass"_s};
     for (int i = 0; i < 5; ++i) {
         events.clear();
         s.copyProduct(i);
         const QString box = S::productControl(S::copyButtonField(i));
         // The clipboard is cleared while the box flashes, then holds the box's text.
-        EXPECT_EQ(events, (QStringList{u"on " + box + u' ', QStringLiteral("pump"),
-                                       u"off " + box + u' ' + copied[i]}));
+        EXPECT_EQ(events,
+                  (QStringList{u"on " + box + u' ', u"pump"_s, u"off " + box + u' ' + copied[i]}));
     }
-    EXPECT_EQ(S::productControl(S::copyButtonField(3)), QStringLiteral("txtPADfileURL"));
     // A box the user edited is copied as it stands, and feeds the known fields.
-    s.setProduct(S::PadFileUrl, QStringLiteral("http://acme.example/pad.xml"));
+    s.setProduct(S::PadFileUrl, u"http://acme.example/pad.xml"_s);
     s.copyProduct(3);
-    EXPECT_EQ(prompts.clipboard, QStringLiteral("http://acme.example/pad.xml"));
-    EXPECT_EQ(
-        s.knownFields(QStringLiteral("me@acme.example"), QStringLiteral("s3cret")),
-        (std::vector<KnownInput>{
-            {QStringLiteral("padfile"), QStringLiteral("http://acme.example/pad.xml"),
-             QStringLiteral("TEXT")},
-            {QStringLiteral("padfile"), QStringLiteral("http://acme.example/pad.xml"),
-             QStringLiteral("FILE")},
-            {QStringLiteral("User"), QStringLiteral("me@acme.example"), QStringLiteral("TEXT")},
-            {QStringLiteral("Password"), QStringLiteral("s3cret"), QStringLiteral("PASSWORD")}}));
+    EXPECT_EQ(prompts.clipboard, u"http://acme.example/pad.xml"_s);
+    EXPECT_EQ(s.knownFields(u"me@acme.example"_s, u"s3cret"_s),
+              (std::vector<KnownInput>{{u"padfile"_s, u"http://acme.example/pad.xml"_s, u"TEXT"_s},
+                                       {u"padfile"_s, u"http://acme.example/pad.xml"_s, u"FILE"_s},
+                                       {u"User"_s, u"me@acme.example"_s, u"TEXT"_s},
+                                       {u"Password"_s, u"s3cret"_s, u"PASSWORD"_s}}));
 }
 
 TEST(SubmissionSession, FindsThePadFileCreatePadWrote) {
@@ -122,24 +109,22 @@ TEST(SubmissionSession, FindsThePadFileCreatePadWrote) {
     program.setText(ProgramField::ProgramName, u"Widget & Co");
     program.setText(ProgramField::ApplicationXMLFileURL, u"http://acme.example/pads/Widget.XML");
     const QString padFolder = home.home().padFolder();
-    const QString folder = QDir(padFolder).filePath(QStringLiteral("Acme_Tools"));
+    const QString folder = QDir(padFolder).filePath(u"Acme_Tools"_s);
     EXPECT_EQ(findCreatedPadFile(padFolder, company, program), QString()) << "nothing created";
     ASSERT_TRUE(QDir().mkpath(folder));
 
     // Saved under another name: found by the program name inside.
-    const QString other = folder + QStringLiteral("/renamed.xml");
+    const QString other = folder + u"/renamed.xml"_s;
     QString error;
     ASSERT_TRUE(writePadFiles(company, program, QString(), other, &error)) << error.toStdString();
     ProgramRecord second = program;
     second.setText(ProgramField::ProgramName, u"Gadget");
-    ASSERT_TRUE(
-        writePadFiles(company, second, QString(), folder + QStringLiteral("/gadget.xml"), &error));
+    ASSERT_TRUE(writePadFiles(company, second, QString(), folder + u"/gadget.xml"_s, &error));
     EXPECT_EQ(findCreatedPadFile(padFolder, company, program), other);
-    EXPECT_EQ(findCreatedPadFile(padFolder, company, second),
-              folder + QStringLiteral("/gadget.xml"));
+    EXPECT_EQ(findCreatedPadFile(padFolder, company, second), folder + u"/gadget.xml"_s);
 
     // The name Create PAD proposes wins.
-    const QString proposed = folder + QStringLiteral("/widget.xml");
+    const QString proposed = folder + u"/widget.xml"_s;
     ASSERT_TRUE(writePadFiles(company, second, QString(), proposed, &error));
     EXPECT_EQ(findCreatedPadFile(padFolder, company, program), proposed);
 
@@ -150,17 +135,15 @@ TEST(SubmissionSession, FindsThePadFileCreatePadWrote) {
 }
 
 TEST(KnownFields, ScriptsCarryTheirArgumentsSafely) {
-    const KnownInput input{QStringLiteral("padfile"), QStringLiteral("a\"b'c</script>\\"),
-                           QStringLiteral("TEXT")};
+    const KnownInput input{u"padfile"_s, u"a\"b'c</script>\\"_s, u"TEXT"_s};
     const QString script = setInputValueScript(input);
     // Name and type are compared in upper case; the value travels as a JSON string.
-    EXPECT_TRUE(script.contains(QStringLiteral("[\"PADFILE\",\"TEXT\",\"a\\\"b'c</script>\\\\\"]")))
+    EXPECT_TRUE(script.contains(u"[\"PADFILE\",\"TEXT\",\"a\\\"b'c</script>\\\\\"]"_s))
         << script.toStdString();
-    EXPECT_TRUE(script.contains(QStringLiteral("'input'")));
-    EXPECT_TRUE(script.contains(QStringLiteral("'change'")));
+    EXPECT_TRUE(script.contains(u"'input'"_s));
+    EXPECT_TRUE(script.contains(u"'change'"_s));
     const QString attach =
-        attachFileScript({QStringLiteral("padfile"), QString(), QStringLiteral("FILE")},
-                         QStringLiteral("w.xml"), QByteArray("<x/>"));
-    EXPECT_TRUE(attach.contains(QStringLiteral("[\"PADFILE\",\"FILE\",\"w.xml\",\"PHgvPg==\"]")))
+        attachFileScript({u"padfile"_s, QString(), u"FILE"_s}, u"w.xml"_s, QByteArray("<x/>"));
+    EXPECT_TRUE(attach.contains(u"[\"PADFILE\",\"FILE\",\"w.xml\",\"PHgvPg==\"]"_s))
         << attach.toStdString();
 }
