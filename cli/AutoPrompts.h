@@ -16,7 +16,7 @@ public:
     QStringList messages;
     QString clipboard;
 
-    bool askYesNo(const QString&, const QString&, Icon) override { return true; }
+    bool askYesNo(const QString&, const QString&, Icon, Default) override { return true; }
     std::optional<QString> inputBox(const QString&, const QString&, const QString&) override {
         return nextInput;
     }

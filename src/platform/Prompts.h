@@ -18,10 +18,13 @@ struct FileDialogRequest {
 class Prompts {
 public:
     enum class Icon { None, Question, Stop, Information };
+    // The answer Enter gives: Yes, or No where a Yes would lose data (a deletion).
+    enum class Default { Yes, No };
 
     virtual ~Prompts() = default;
     // Yes/No message box; true for Yes.
-    virtual bool askYesNo(const QString& title, const QString& text, Icon icon) = 0;
+    virtual bool askYesNo(const QString& title, const QString& text, Icon icon,
+                          Default answer = Default::Yes) = 0;
     // Input box; nothing when cancelled.
     virtual std::optional<QString> inputBox(const QString& prompt, const QString& title,
                                             const QString& defaultText) = 0;

@@ -10,7 +10,7 @@ class SilentPrompts : public Prompts {
 public:
     explicit SilentPrompts(bool answerYes = false)
         : m_yes(answerYes) {}
-    bool askYesNo(const QString&, const QString&, Icon) override { return m_yes; }
+    bool askYesNo(const QString&, const QString&, Icon, Default) override { return m_yes; }
     std::optional<QString> inputBox(const QString&, const QString&, const QString&) override {
         return std::nullopt;
     }

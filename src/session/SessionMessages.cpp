@@ -8,7 +8,7 @@ namespace brevaro {
 bool confirmDelete(SessionCore& s, const QString& name) {
     return s.prompts.askYesNo(QStringLiteral("Delete ") + name,
                               QStringLiteral("Do you want to delete ") + name + u'?',
-                              Prompts::Icon::Question);
+                              Prompts::Icon::Question, Prompts::Default::No);
 }
 
 CommandResult reportDeleteFailure(SessionCore& s, const QString& name) {

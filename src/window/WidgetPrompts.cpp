@@ -39,7 +39,8 @@ private:
 
 } // namespace
 
-bool WidgetPrompts::askYesNo(const QString& title, const QString& text, Icon icon) {
+bool WidgetPrompts::askYesNo(const QString& title, const QString& text, Icon icon,
+                             Default answer) {
     QMessageBox box(m_parent);
     box.setWindowTitle(title);
     box.setText(text);
@@ -57,7 +58,7 @@ bool WidgetPrompts::askYesNo(const QString& title, const QString& text, Icon ico
         break;
     }
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box.setDefaultButton(QMessageBox::Yes);
+    box.setDefaultButton(answer == Default::No ? QMessageBox::No : QMessageBox::Yes);
     box.installEventFilter(new AnswerRequired(box));
     return box.exec() == QMessageBox::Yes;
 }

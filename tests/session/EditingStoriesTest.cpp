@@ -124,6 +124,7 @@ TEST_F(SessionTest, DeletingAsksAndCompacts) {
     prompts.yesNo = {false};
     EXPECT_EQ(command(ControlAction::DeleteCompany).outcome, CommandResult::Outcome::Declined);
     EXPECT_EQ(prompts.asked.back(), QStringLiteral("Delete B|Do you want to delete B?"));
+    EXPECT_EQ(prompts.defaults.back(), Prompts::Default::No); // Enter keeps the company
     EXPECT_EQ(store.companyCount(), 3);
     prompts.yesNo = {true};
     EXPECT_TRUE(command(ControlAction::DeleteCompany).isDone());

@@ -114,21 +114,3 @@ TEST_F(FieldHelpTest, TranslationAndLinkAddresses) {
                   QStringLiteral("http://product.test/download.php?version=1.0.0"),
                   QStringLiteral("http://product.test"), QStringLiteral("http://product.test")}));
 }
-
-TEST_F(FieldHelpTest, TooltipsFromTheTable) {
-    EXPECT_EQ(at(u"cmdButton", 9).toolTip, QStringLiteral("Exit Brevaro"));
-    EXPECT_EQ(at(u"cmdCopyWebInfo2ClipBoard", 15).toolTip,
-              QStringLiteral("Copy field contents to Clipboard"));
-    EXPECT_EQ(at(u"cmdCopyWebInfo2ClipBoard", 16).toolTip,
-              QStringLiteral("Click to copy text to Clipboard"));
-    EXPECT_EQ(at(u"txtTPA_MemberNo").toolTip, QStringLiteral("Enter your ASP Member ID"));
-    // Every record field of both records has exactly one control, apart from CompanyID.
-    int company = 0, program = 0;
-    for (const auto& s : mainWindowControls()) {
-        company += s.side == RecordSide::Company;
-        program += s.side == RecordSide::Program;
-    }
-    EXPECT_EQ(company, 21);
-    // 63 program fields; the expiry options add 3 controls, the 7 language arrays 8 x 7.
-    EXPECT_EQ(program, 63 + 3 + 56);
-}

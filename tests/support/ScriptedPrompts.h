@@ -17,15 +17,17 @@ public:
     std::deque<std::optional<QString>> files;
     QStringList asked; // "title|text" of every yes/no question, in order
     QStringList messages;
-    QStringList opened; // documents and addresses
+    QList<Default> defaults; // the default answer of every yes/no question, in order
+    QStringList opened;      // documents and addresses
     QList<FileDialogRequest> dialogs;
     QString clipboard;
     int beeps = 0;
     int pumps = 0;
     std::function<void()> onPump;
 
-    bool askYesNo(const QString& title, const QString& text, Icon) override {
+    bool askYesNo(const QString& title, const QString& text, Icon, Default preset) override {
         asked << title + u'|' + text;
+        defaults << preset;
         if (yesNo.empty()) {
             ADD_FAILURE() << "unexpected question: " << text.toStdString();
             return false;
