@@ -10,20 +10,16 @@
 #include <QUrl>
 
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 using namespace brevaro::test;
 
 TEST(CreatePadNames, ProposedAndCompanionNames) {
-    EXPECT_EQ(proposedPadFileName(QStringLiteral(" http://x.example/pad/MyProg.xml "), QString()),
-              QStringLiteral("myprog"));
-    EXPECT_EQ(
-        proposedPadFileName(QStringLiteral("http://x.example/pad/noext"), QStringLiteral("P")),
-        QString());
-    EXPECT_EQ(proposedPadFileName(QString(), QStringLiteral(" My Program 2 ")),
-              QStringLiteral("my_program_2"));
-    EXPECT_EQ(companionFileName(QStringLiteral("/home/u/Tools/pad/Acme/MyProg.xml")),
-              QStringLiteral("/home/u/Tools/pad/Acme/myprog.htm"));
-    EXPECT_EQ(companionFileName(QStringLiteral("/home/u/pad/README")),
-              QStringLiteral("/home/u/pad/.htm"));
+    EXPECT_EQ(proposedPadFileName(u" http://x.example/pad/MyProg.xml "_s, QString()), u"myprog"_s);
+    EXPECT_EQ(proposedPadFileName(u"http://x.example/pad/noext"_s, u"P"_s), QString());
+    EXPECT_EQ(proposedPadFileName(QString(), u" My Program 2 "_s), u"my_program_2"_s);
+    EXPECT_EQ(companionFileName(u"/home/u/Tools/pad/Acme/MyProg.xml"_s),
+              u"/home/u/Tools/pad/Acme/myprog.htm"_s);
+    EXPECT_EQ(companionFileName(u"/home/u/pad/README"_s), u"/home/u/pad/.htm"_s);
 }
 
 namespace {
@@ -32,9 +28,9 @@ class CreatePadTest : public SessionTest {
 protected:
     void SetUp() override {
         SessionTest::SetUp();
-        addCompany(QStringLiteral("../../x"));
-        addProgram(QStringLiteral("My Widget"));
-        type(u"txtProgramVersion", QStringLiteral("2.5"));
+        addCompany(u"../../x"_s);
+        addProgram(u"My Widget"_s);
+        type(u"txtProgramVersion", u"2.5"_s);
         command(ControlAction::SaveProgram);
     }
 };
@@ -42,31 +38,30 @@ protected:
 } // namespace
 
 TEST_F(CreatePadTest, WritesBothFilesInsideThePadFolder) {
-    const QString folder = home.file(QStringLiteral("pad/.._.._x"));
-    prompts.files.push_back(folder + QStringLiteral("/Widget.XML"));
+    const QString folder = home.file(u"pad/.._.._x"_s);
+    prompts.files.push_back(folder + u"/Widget.XML"_s);
     command(ControlAction::CreatePAD);
     ASSERT_EQ(prompts.dialogs.size(), 1);
-    EXPECT_EQ(prompts.dialogs[0].fileName, QStringLiteral("my_widget"));
+    EXPECT_EQ(prompts.dialogs[0].fileName, u"my_widget"_s);
     EXPECT_EQ(prompts.dialogs[0].initialFolder, folder);
-    const QByteArray pad = readBytes(folder + QStringLiteral("/Widget.XML"));
-    EXPECT_EQ(pad, toWin1252(QString(CreatePADText(session->company(), session->program()) +
-                                     QStringLiteral("\r\n"))));
+    const QByteArray pad = readBytes(folder + u"/Widget.XML"_s);
+    EXPECT_EQ(
+        pad, toWin1252(QString(CreatePADText(session->company(), session->program()) + u"\r\n"_s)));
     EXPECT_TRUE(pad.endsWith("</XML_DIZ_INFO>\r\n\r\n"));
-    EXPECT_TRUE(
-        readBytes(folder + QStringLiteral("/widget.htm")).startsWith("<!-- Created By Brevaro"));
+    EXPECT_TRUE(readBytes(folder + u"/widget.htm"_s).startsWith("<!-- Created By Brevaro"));
     // Nothing was written outside the home.
     QStringList written;
     QDirIterator it(QFileInfo(home.path()).absolutePath(), QDir::Files | QDir::NoDotAndDotDot);
     while (it.hasNext())
         written << it.next();
-    EXPECT_TRUE(written.filter(QStringLiteral(".xml"), Qt::CaseInsensitive).isEmpty());
+    EXPECT_TRUE(written.filter(u".xml"_s, Qt::CaseInsensitive).isEmpty());
 }
 
 TEST_F(CreatePadTest, UnsavedChangesStopIt) {
-    type(u"txtCostUS", QStringLiteral("10"));
+    type(u"txtCostUS", u"10"_s);
     prompts.yesNo = {false};
     command(ControlAction::CreatePAD);
-    EXPECT_EQ(status(), QStringLiteral("You MUST save before you can create your PAD file ..."));
+    EXPECT_EQ(status(), u"You MUST save before you can create your PAD file ..."_s);
     EXPECT_EQ(prompts.beeps, 1);
     EXPECT_TRUE(prompts.dialogs.isEmpty());
     // Saying Yes saves and goes on; cancelling the dialog writes nothing.
@@ -74,13 +69,13 @@ TEST_F(CreatePadTest, UnsavedChangesStopIt) {
     prompts.files.push_back(std::nullopt);
     command(ControlAction::CreatePAD);
     EXPECT_EQ(prompts.dialogs.size(), 1);
-    EXPECT_TRUE(QDir(home.file(QStringLiteral("pad/.._.._x"))).isEmpty());
+    EXPECT_TRUE(QDir(home.file(u"pad/.._.._x"_s)).isEmpty());
 }
 
 TEST_F(CreatePadTest, VerifyWritesThePageAndOpensIt) {
-    type(u"txtCostUS", QStringLiteral("10")); // unsaved values show as they stand in memory
+    type(u"txtCostUS", u"10"_s); // unsaved values show as they stand in memory
     command(ControlAction::VerifyPAD);
-    const QString page = home.file(QStringLiteral("temp1.htm"));
+    const QString page = home.file(u"temp1.htm"_s);
     EXPECT_EQ(readBytes(page), toWin1252(verificationPage(session->company(), session->program(),
                                                           text(u"lblOrganization", 0))));
     EXPECT_EQ(prompts.opened, QStringList{QUrl::fromLocalFile(page).toString()});

@@ -7,6 +7,7 @@
 #include <QDir>
 
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 using namespace brevaro::test;
 
 namespace {
@@ -30,10 +31,9 @@ TEST_F(ImporterTest, WhatThisProgramWroteComesBackWhole) {
     const CompanyRecord company = fullCompany();
     const ProgramRecord program = fullProgram();
     const QString doc = CreatePADText(company, program);
-    ASSERT_TRUE(import(
-        padFile(QStringLiteral("full.xml"), toWin1252(QString(doc + QStringLiteral("\r\n"))))));
+    ASSERT_TRUE(import(padFile(u"full.xml"_s, toWin1252(QString(doc + u"\r\n"_s)))));
     EXPECT_TRUE(prompts.asked.isEmpty());
-    EXPECT_EQ(store.companyNames(), QStringList{QStringLiteral("CompanyName")});
+    EXPECT_EQ(store.companyNames(), QStringList{u"CompanyName"_s});
     CompanyRecord c;
     ProgramRecord p;
     store.readCompany(1, c);
@@ -43,11 +43,10 @@ TEST_F(ImporterTest, WhatThisProgramWroteComesBackWhole) {
     // written with a date-based expiry.
     ProgramRecord expected = program;
     for (auto f : {ProgramField::DistributionPermissions, ProgramField::EULA})
-        expected.setText(f, QString(program.text(f) + QStringLiteral("\r\n")));
+        expected.setText(f, QString(program.text(f) + u"\r\n"_s));
     expected.setText(ProgramField::ExpireCount, u"");
-    expected.setNumber(ProgramField::ExpireBasedOn, 0, 0);
-    expected.setNumber(ProgramField::ExpireBasedOn, 0, 1);
-    expected.setNumber(ProgramField::ExpireBasedOn, 0, 2);
+    for (int kind = 0; kind < 3; ++kind)
+        expected.setNumber(ProgramField::ExpireBasedOn, 0, kind);
     expected.setNumber(ProgramField::OSSupported, 0, 26);
     for (int f = 0; f < static_cast<int>(programLayout().fields.size()); ++f) {
         const RecordField& s = programLayout().fields[static_cast<std::size_t>(f)];
@@ -59,37 +58,34 @@ TEST_F(ImporterTest, WhatThisProgramWroteComesBackWhole) {
     }
     // Writing again gives the same document, but for the added line ends.
     QString again = doc;
-    again.replace(QStringLiteral("DistributionPermissions</Distribution"),
-                  QStringLiteral("DistributionPermissions\r\n</Distribution"));
-    again.replace(QStringLiteral("<more></EULA>"), QStringLiteral("<more>\r\n</EULA>"));
+    again.replace(u"DistributionPermissions</Distribution"_s,
+                  u"DistributionPermissions\r\n</Distribution"_s);
+    again.replace(u"<more></EULA>"_s, u"<more>\r\n</EULA>"_s);
     EXPECT_EQ(CreatePADText(c, p), again);
     // The window shows what was imported, clean.
-    EXPECT_EQ(text(u"cboProgramName"), QStringLiteral("ProgramName"));
+    EXPECT_EQ(text(u"cboProgramName"), u"ProgramName"_s);
     EXPECT_FALSE(session->state().CompanyDirty || session->state().ProgramDirty);
 }
 
 TEST_F(ImporterTest, RealFilesFromOtherTools) {
     const QDir samples(QStringLiteral(BREVARO_SAMPLES));
-    ASSERT_EQ(samples.entryList({QStringLiteral("*.xml")}).size(), 4);
-    for (const QString& name :
-         samples.entryList({QStringLiteral("*.xml")}, QDir::Files, QDir::Name))
+    ASSERT_EQ(samples.entryList({u"*.xml"_s}).size(), 4);
+    for (const QString& name : samples.entryList({u"*.xml"_s}, QDir::Files, QDir::Name))
         EXPECT_TRUE(import(samples.filePath(name))) << name.toStdString();
-    EXPECT_EQ(store.companyNames(),
-              (QStringList{QStringLiteral("Denis Stankovski"), QStringLiteral("Yaniv Kalsky"),
-                           QStringLiteral("Mark Russell"), QStringLiteral("DoxBox")}));
+    EXPECT_EQ(store.companyNames(), (QStringList{u"Denis Stankovski"_s, u"Yaniv Kalsky"_s,
+                                                 u"Mark Russell"_s, u"DoxBox"_s}));
     ProgramRecord p;
     store.readProgram(3, 1, p); // the file without a company name, under its author's name
-    EXPECT_EQ(p.text(ProgramField::ProgramName), QStringLiteral("UPS"));
-    EXPECT_EQ(p.text(ProgramField::ReleaseYear), QStringLiteral("2002"));
+    EXPECT_EQ(p.text(ProgramField::ProgramName), u"UPS"_s);
+    EXPECT_EQ(p.text(ProgramField::ReleaseYear), u"2002"_s);
     store.readProgram(4, 1, p); // ISO-8859-1, tabs, many unknown systems and languages
-    EXPECT_EQ(p.text(ProgramField::ReleaseMonth), QStringLiteral("8"));
+    EXPECT_EQ(p.text(ProgramField::ReleaseMonth), u"8"_s);
     EXPECT_EQ(p.number(ProgramField::OSSupported, 5), -1); // WinNT 4.x
     EXPECT_EQ(p.number(ProgramField::OSSupported, 10), 0); // Linux is not in the file
-    EXPECT_TRUE(
-        p.text(ProgramField::CharDesc250).contains(QStringLiteral("&quot;virtual disks&quot;")));
+    EXPECT_TRUE(p.text(ProgramField::CharDesc250).contains(u"&quot;virtual disks&quot;"_s));
     EXPECT_EQ(p.number(ProgramField::DescriptionActive, 3), 0); // the German block is empty
     store.readProgram(1, 1, p); // UTF-8 with Cyrillic: what Windows-1252 cannot hold becomes "?"
-    EXPECT_EQ(p.text(ProgramField::ProgramVersion).left(3), QStringLiteral("2.7"));
+    EXPECT_EQ(p.text(ProgramField::ProgramVersion).left(3), u"2.7"_s);
 }
 
 TEST_F(ImporterTest, RefusedFilesChangeNothing) {
@@ -97,19 +93,18 @@ TEST_F(ImporterTest, RefusedFilesChangeNothing) {
          {QByteArray("hello <?xml"), QByteArray("\xEF\xBB\xBF<?xml version=\"1.0\"?>"),
           QByteArray(), QByteArray("\x00\x01\x02<?xml", 8)}) {
         prompts.messages.clear();
-        EXPECT_FALSE(import(padFile(QStringLiteral("bad.xml"), bytes)));
+        EXPECT_FALSE(import(padFile(u"bad.xml"_s, bytes)));
         ASSERT_EQ(prompts.messages.size(), 1);
-        EXPECT_EQ(
-            prompts.messages[0],
-            QStringLiteral("Invalid PAD XML File|Invalid PAD XML File\r\nMust start with: <?xml"));
+        EXPECT_EQ(prompts.messages[0],
+                  u"Invalid PAD XML File|Invalid PAD XML File\r\nMust start with: <?xml"_s);
     }
     EXPECT_EQ(prompts.beeps, 4);
-    EXPECT_FALSE(QFile::exists(home.file(QStringLiteral("data/company.dta"))));
+    EXPECT_FALSE(QFile::exists(home.file(u"data/company.dta"_s)));
     EXPECT_FALSE(session->state().ImportInProgress);
     // Upper case is fine.
-    EXPECT_TRUE(import(padFile(QStringLiteral("upper.xml"),
-                               "  <?XML version=\"1.0\"?><Company_Name>Upper</Company_Name>")));
-    EXPECT_EQ(store.companyNames(), QStringList{QStringLiteral("Upper")});
+    EXPECT_TRUE(import(
+        padFile(u"upper.xml"_s, "  <?XML version=\"1.0\"?><Company_Name>Upper</Company_Name>")));
+    EXPECT_EQ(store.companyNames(), QStringList{u"Upper"_s});
 }
 
 TEST_F(ImporterTest, BrokenTextEndsTheScanCleanly) {
@@ -124,18 +119,18 @@ TEST_F(ImporterTest, BrokenTextEndsTheScanCleanly) {
         "<?xml" + QByteArray(20000, '>') + QByteArray(20000, '<'),
     };
     for (const QByteArray& bytes : cases)
-        EXPECT_TRUE(import(padFile(QStringLiteral("broken.xml"), bytes)));
-    EXPECT_EQ(store.companyNames().front(), QStringLiteral("Trunc"));
-    EXPECT_EQ(store.programNames(1), QStringList{QStringLiteral("Cut")});
+        EXPECT_TRUE(import(padFile(u"broken.xml"_s, bytes)));
+    EXPECT_EQ(store.companyNames().front(), u"Trunc"_s);
+    EXPECT_EQ(store.programNames(1), QStringList{u"Cut"_s});
 }
 
 TEST_F(ImporterTest, TagRules) {
-    addCompany(QStringLiteral("Acme"));
-    type(u"txtAddress1", QStringLiteral("kept"));
-    type(u"txtAddress2", QStringLiteral("emptied"));
+    addCompany(u"Acme"_s);
+    type(u"txtAddress1", u"kept"_s);
+    type(u"txtAddress2", u"emptied"_s);
     command(ControlAction::SaveCompany);
     const QString path =
-        padFile(QStringLiteral("rules.xml"),
+        padFile(u"rules.xml"_s,
                 minimal("<Company_Name>Acme</Company_Name>\r\n"
                         "<Address_1 />\r\n<Address_2></Address_2>\r\n<City_Town "
                         "attr=\"x\">ignored</City_Town>\r\n"
@@ -151,13 +146,12 @@ TEST_F(ImporterTest, TagRules) {
                         "<Char_Desc_80>a <b>bold</b> word</Char_Desc_80>"));
     ASSERT_TRUE(import(path));
     ASSERT_TRUE(import(path)); // a second import makes a second program of the same name
-    EXPECT_EQ(store.companyNames(), QStringList{QStringLiteral("Acme")});
-    EXPECT_EQ(store.programNames(1),
-              (QStringList{QStringLiteral("Widget"), QStringLiteral("Widget")}));
+    EXPECT_EQ(store.companyNames(), QStringList{u"Acme"_s});
+    EXPECT_EQ(store.programNames(1), (QStringList{u"Widget"_s, u"Widget"_s}));
     CompanyRecord c;
     store.readCompany(1, c);
     // The empty form keeps the shown company's value; nothing between the tags empties it.
-    EXPECT_EQ(c.text(CompanyField::Address1), QStringLiteral("kept"));
+    EXPECT_EQ(c.text(CompanyField::Address1), u"kept"_s);
     EXPECT_EQ(c.text(CompanyField::Address2), QString());
     ProgramRecord p;
     store.readProgram(1, 2, p);
@@ -167,58 +161,57 @@ TEST_F(ImporterTest, TagRules) {
     EXPECT_EQ(p.number(ProgramField::HasExpireInfo), 0);
     EXPECT_EQ(p.number(ProgramField::ASPMember), 1);
     EXPECT_EQ(p.number(ProgramField::ExpireBasedOn, 1), -1);
-    EXPECT_EQ(p.text(ProgramField::EULA), QStringLiteral("one\r\ntwo\r\n"));
-    EXPECT_EQ(p.text(ProgramField::Keywords, 0), QStringLiteral("before any language"));
-    EXPECT_EQ(p.text(ProgramField::CharDesc45, 2), QStringLiteral("fr"));
+    EXPECT_EQ(p.text(ProgramField::EULA), u"one\r\ntwo\r\n"_s);
+    EXPECT_EQ(p.text(ProgramField::Keywords, 0), u"before any language"_s);
+    EXPECT_EQ(p.text(ProgramField::CharDesc45, 2), u"fr"_s);
     EXPECT_EQ(p.number(ProgramField::DescriptionActive, 2), 1);
     // After the French block the language stays French; "<b>bold" is scanned as a tag.
     EXPECT_EQ(p.text(ProgramField::CharDesc80, 2), QString());
-    EXPECT_EQ(text(u"cboProgramName"), QStringLiteral("Widget"));
+    EXPECT_EQ(text(u"cboProgramName"), u"Widget"_s);
     EXPECT_EQ(session->state().CurrentProgramNo, 2);
 }
 
 // A file of company elements only makes a company and no program; a name differing only in
 // case is another company.
 TEST_F(ImporterTest, CompanyElementsAloneMakeNoProgram) {
-    addCompany(QStringLiteral("Acme"));
-    ASSERT_TRUE(import(
-        padFile(QStringLiteral("a.xml"), minimal("<Company_Info><Company_Name>ACME</Company_Name>"
-                                                 "<City_Town>Leeds</City_Town></Company_Info>"))));
-    EXPECT_EQ(store.companyNames(), (QStringList{QStringLiteral("Acme"), QStringLiteral("ACME")}));
+    addCompany(u"Acme"_s);
+    ASSERT_TRUE(
+        import(padFile(u"a.xml"_s, minimal("<Company_Info><Company_Name>ACME</Company_Name>"
+                                           "<City_Town>Leeds</City_Town></Company_Info>"))));
+    EXPECT_EQ(store.companyNames(), (QStringList{u"Acme"_s, u"ACME"_s}));
     EXPECT_EQ(store.programCount(1) + store.programCount(2), 0);
     CompanyRecord c;
     store.readCompany(2, c);
-    EXPECT_EQ(c.text(CompanyField::CityTown), QStringLiteral("Leeds"));
+    EXPECT_EQ(c.text(CompanyField::CityTown), u"Leeds"_s);
 }
 
 TEST_F(ImporterTest, ImportCommandAsksForTheFile) {
     prompts.files.push_back(std::nullopt);
     command(ControlAction::ImportPAD);
     ASSERT_EQ(prompts.dialogs.size(), 1);
-    EXPECT_EQ(prompts.dialogs[0].filter, QStringLiteral("PAD File(s) (*.xml)|*.xml"));
+    EXPECT_EQ(prompts.dialogs[0].filter, u"PAD File(s) (*.xml)|*.xml"_s);
     EXPECT_EQ(prompts.dialogs[0].initialFolder, home.home().padFolder());
-    prompts.files.push_back(
-        padFile(QStringLiteral("m.xml"), minimal("<Company_Name>Menu</Company_Name>")));
+    prompts.files.push_back(padFile(u"m.xml"_s, minimal("<Company_Name>Menu</Company_Name>")));
     command(ControlAction::ImportPAD);
-    EXPECT_EQ(store.companyNames(), QStringList{QStringLiteral("Menu")});
+    EXPECT_EQ(store.companyNames(), QStringList{u"Menu"_s});
 }
 
 // Element and language names are matched with their letter case: a lower-case tag is not the
 // element, a lower-case language block does not switch the language.
 TEST_F(ImporterTest, TagsAndLanguagesMatchTheirCase) {
     ASSERT_TRUE(import(padFile(
-        QStringLiteral("case.xml"),
+        u"case.xml"_s,
         minimal("<Company_Name>Right</Company_Name><company_name>Wrong</company_name>\r\n"
                 "<Program_Name>Widget</Program_Name><program_version>9</program_version>\r\n"
                 "<french><Keywords>still english</Keywords></french>\r\n"
                 "<Spanish><Char_Desc_45>spanish</Char_Desc_45></Spanish>"))));
-    EXPECT_EQ(store.companyNames(), QStringList{QStringLiteral("Right")});
+    EXPECT_EQ(store.companyNames(), QStringList{u"Right"_s});
     ProgramRecord p;
     store.readProgram(1, 1, p);
     EXPECT_EQ(p.text(ProgramField::ProgramVersion), QString());
-    EXPECT_EQ(p.text(ProgramField::Keywords, 0), QStringLiteral("still english"));
+    EXPECT_EQ(p.text(ProgramField::Keywords, 0), u"still english"_s);
     EXPECT_EQ(p.text(ProgramField::Keywords, 2), QString());
-    EXPECT_EQ(p.text(ProgramField::CharDesc45, 1), QStringLiteral("spanish"));
+    EXPECT_EQ(p.text(ProgramField::CharDesc45, 1), u"spanish"_s);
     EXPECT_EQ(p.number(ProgramField::DescriptionActive, 1), 1);
     EXPECT_EQ(p.number(ProgramField::DescriptionActive, 2), 0);
 }

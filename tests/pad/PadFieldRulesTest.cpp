@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 
 // One valid rule per element, each at the end of its path.
 TEST(PadFieldRules, TableIsWellFormed) {
@@ -24,13 +25,13 @@ TEST(PadFieldRules, TableIsWellFormed) {
 // "\Z" as the published checks read it: the end, or before one final line break.
 TEST(PadFieldRules, EndOfTextAsPublished) {
     const PadFieldRule& version = *padFieldRule(u"Program_Version");
-    EXPECT_TRUE(version.accepts(QStringLiteral("2.1.0")));
-    EXPECT_TRUE(version.accepts(QStringLiteral("2.1.0\n")));
-    EXPECT_FALSE(version.accepts(QStringLiteral("2.1.0\n\n")));
-    EXPECT_FALSE(version.accepts(QStringLiteral("2.1.0 beta")));
+    EXPECT_TRUE(version.accepts(u"2.1.0"_s));
+    EXPECT_TRUE(version.accepts(u"2.1.0\n"_s));
+    EXPECT_FALSE(version.accepts(u"2.1.0\n\n"_s));
+    EXPECT_FALSE(version.accepts(u"2.1.0 beta"_s));
     const PadFieldRule& country = *padFieldRule(u"Country");
-    EXPECT_TRUE(country.accepts(QStringLiteral("C\u00f4te d'Ivoire"))); // Latin-1 letters
-    EXPECT_FALSE(country.accepts(QStringLiteral("St. Helena")));
+    EXPECT_TRUE(country.accepts(u"C\u00f4te d'Ivoire"_s)); // Latin-1 letters
+    EXPECT_FALSE(country.accepts(u"St. Helena"_s));
 }
 
 // Every meaning of the table is said as advice, none quoted as it stands.
@@ -43,5 +44,5 @@ TEST(PadFieldRules, EveryMeaningIsPhrasedAsAdvice) {
         EXPECT_FALSE(advice.contains(u'\\')) << advice.toStdString();
     }
     EXPECT_EQ(padFieldRule(u"Contact_First_Name")->advice(),
-              QStringLiteral("should be a text of 2 to 30 characters, without < and tabs"));
+              u"should be a text of 2 to 30 characters, without < and tabs"_s);
 }

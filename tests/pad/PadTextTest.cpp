@@ -9,13 +9,14 @@
 #include <gtest/gtest.h>
 
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 using PF = ProgramField;
 
 QStringList lines(const QString& doc) {
-    QStringList l = doc.split(QStringLiteral("\r\n"));
+    QStringList l = doc.split(u"\r\n"_s);
     EXPECT_EQ(l.takeLast(), QString()) << "the last line ends with CR LF too";
     return l;
 }
@@ -32,21 +33,18 @@ ProgramRecord emptyProgram() {
 // the Y/N flags and the empty descriptions block; no association block.
 TEST(PadText, EmptyRecordsGiveTheEmptyForms) {
     const QString doc = CreatePADText(CompanyRecord(), emptyProgram());
-    static const QRegularExpression full(QStringLiteral("<(\\w+)>([^<]*)</\\1>"));
+    static const QRegularExpression full(u"<(\\w+)>([^<]*)</\\1>"_s);
     QStringList written;
     for (auto it = full.globalMatch(doc); it.hasNext();) {
         const auto m = it.next();
         written << m.captured(1) + u'=' + m.captured(2);
     }
-    EXPECT_EQ(
-        written.mid(2),
-        (QStringList{QStringLiteral("Has_Expire_Info=N"), QStringLiteral("Includes_JAVA_VM=N"),
-                     QStringLiteral("Includes_VB_Runtime=N"), QStringLiteral("Includes_DirectX=N"),
-                     QStringLiteral("Program_Descriptions=\r\n")}));
-    EXPECT_TRUE(doc.contains(QStringLiteral("<Has_Expire_Info>N</Has_Expire_Info>\r\n  "
-                                            "<Expire_Count />\r\n  <Expire_Based_On />\r\n")));
-    EXPECT_TRUE(
-        doc.endsWith(QStringLiteral("</Permissions>\r\n\r\n\r\n\r\n\r\n\r\n</XML_DIZ_INFO>\r\n")));
+    EXPECT_EQ(written.mid(2).join(u' '), u"Has_Expire_Info=N Includes_JAVA_VM=N "
+                                         u"Includes_VB_Runtime=N Includes_DirectX=N "
+                                         u"Program_Descriptions=\r\n"_s);
+    EXPECT_TRUE(doc.contains(u"<Has_Expire_Info>N</Has_Expire_Info>\r\n  "
+                             "<Expire_Count />\r\n  <Expire_Based_On />\r\n"_s));
+    EXPECT_TRUE(doc.endsWith(u"</Permissions>\r\n\r\n\r\n\r\n\r\n\r\n</XML_DIZ_INFO>\r\n"_s));
 }
 
 TEST(PadText, ValuesFlagsAndLanguages) {
@@ -64,29 +62,25 @@ TEST(PadText, ValuesFlagsAndLanguages) {
     p.setText(PF::CharDesc2000, u"line one\r\nline two", 8);
     p.setNumber(PF::IncludesDirectX, -1);
     const QStringList l = lines(CreatePADText(c, p));
-    EXPECT_TRUE(l.contains(QStringLiteral(" <Company_Name>A&B <Tools></Company_Name>")));
-    EXPECT_TRUE(l.contains(QStringLiteral(" <Program_Name />")));
-    EXPECT_TRUE(
-        l.contains(QStringLiteral(" <Program_OS_Support>Win95,Win98,WinXP</Program_OS_Support>")));
-    EXPECT_TRUE(l.contains(QStringLiteral(" <Program_Language>English,German</Program_Language>")));
-    EXPECT_TRUE(l.contains(QStringLiteral(" <Includes_DirectX>Y</Includes_DirectX>")));
-    const qsizetype start = l.indexOf(QStringLiteral("<Program_Descriptions>"));
-    EXPECT_EQ(
-        l.mid(start, 12),
-        (QStringList{QStringLiteral("<Program_Descriptions>"), QStringLiteral(" <Russian>"),
-                     QStringLiteral("  <Keywords>ru words</Keywords>"),
-                     QStringLiteral("  <Char_Desc_45 />"), QStringLiteral("  <Char_Desc_80 />"),
-                     QStringLiteral("  <Char_Desc_250 />"), QStringLiteral("  <Char_Desc_450 />"),
-                     QStringLiteral("  <Char_Desc_2000>line one"),
-                     QStringLiteral("line two</Char_Desc_2000>"), QStringLiteral(" </Russian>"),
-                     QStringLiteral("</Program_Descriptions>"), QString()}));
+    for (const QString& line :
+         {u" <Company_Name>A&B <Tools></Company_Name>"_s, u" <Program_Name />"_s,
+          u" <Program_OS_Support>Win95,Win98,WinXP</Program_OS_Support>"_s,
+          u" <Program_Language>English,German</Program_Language>"_s,
+          u" <Includes_DirectX>Y</Includes_DirectX>"_s})
+        EXPECT_TRUE(l.contains(line)) << line.toStdString();
+    const qsizetype start = l.indexOf(u"<Program_Descriptions>"_s);
+    EXPECT_EQ(l.mid(start, 12).join(u'|'),
+              u"<Program_Descriptions>| <Russian>|  <Keywords>ru words</Keywords>|"
+              u"  <Char_Desc_45 />|  <Char_Desc_80 />|  <Char_Desc_250 />|  <Char_Desc_450 />|"
+              u"  <Char_Desc_2000>line one|line two</Char_Desc_2000>| </Russian>|"
+              u"</Program_Descriptions>|"_s);
 }
 
 TEST(PadText, ExpiryVariants) {
     auto expiry = [](const ProgramRecord& p) {
         const QStringList l = lines(CreatePADText(CompanyRecord(), p));
-        const qsizetype a = l.indexOf(QStringLiteral(" <Expire_Info>"));
-        const qsizetype b = l.indexOf(QStringLiteral(" </Expire_Info>"));
+        const qsizetype a = l.indexOf(u" <Expire_Info>"_s);
+        const qsizetype b = l.indexOf(u" </Expire_Info>"_s);
         return l.mid(a + 1, b - a - 1).join(u'|');
     };
     ProgramRecord p;
@@ -95,23 +89,20 @@ TEST(PadText, ExpiryVariants) {
     p.setNumber(PF::ExpireBasedOn, -1, 0);
     p.setNumber(PF::ExpireBasedOn, -1, 1); // the highest index wins
     p.setText(PF::ExpireMonth, u"05");
-    EXPECT_EQ(
-        expiry(p),
-        QStringLiteral("  <Has_Expire_Info>Y</Has_Expire_Info>|  <Expire_Count>30</Expire_Count>|"
-                       "  <Expire_Based_On>Uses</Expire_Based_On>|  <Expire_Other_Info />"));
+    EXPECT_EQ(expiry(p),
+              u"  <Has_Expire_Info>Y</Has_Expire_Info>|  <Expire_Count>30</Expire_Count>|"
+              "  <Expire_Based_On>Uses</Expire_Based_On>|  <Expire_Other_Info />"_s);
     p.setNumber(PF::ExpireBasedOn, -1, 3);
     p.setText(PF::ExpireYear, u"2009");
     EXPECT_EQ(
         expiry(p),
-        QStringLiteral(
-            "  <Has_Expire_Info>Y</Has_Expire_Info>|  <Expire_Based_On>Date</Expire_Based_On>|"
-            "  <Expire_Month>05</Expire_Month>|  <Expire_Day />|  <Expire_Year>2009</Expire_Year>|"
-            "  <Expire_Other_Info />"));
+        u"  <Has_Expire_Info>Y</Has_Expire_Info>|  <Expire_Based_On>Date</Expire_Based_On>|"
+        "  <Expire_Month>05</Expire_Month>|  <Expire_Day />|  <Expire_Year>2009</Expire_Year>|"
+        "  <Expire_Other_Info />"_s);
     p.setText(PF::ExpireMonth, u"");
-    EXPECT_EQ(
-        expiry(p),
-        QStringLiteral("  <Has_Expire_Info>Y</Has_Expire_Info>|  <Expire_Month />|  <Expire_Day />|"
-                       "  <Expire_Year>2009</Expire_Year>|  <Expire_Other_Info />"));
+    EXPECT_EQ(expiry(p),
+              u"  <Has_Expire_Info>Y</Has_Expire_Info>|  <Expire_Month />|  <Expire_Day />|"
+              "  <Expire_Year>2009</Expire_Year>|  <Expire_Other_Info />"_s);
 }
 
 TEST(PadText, AssociationBlocksUseTheFullForm) {
@@ -122,18 +113,12 @@ TEST(PadText, AssociationBlocksUseTheFullForm) {
     p.setNumber(PF::TPAMember, 1);
     p.setText(PF::TrialLicenseType, u"Trialware");
     const QStringList l = lines(CreatePADText(CompanyRecord(), p));
-    const qsizetype end = l.indexOf(QStringLiteral("</Permissions>"));
-    EXPECT_EQ(
-        l.mid(end + 1),
-        (QStringList{QString(), QStringLiteral("<ASP>"), QStringLiteral(" <ASP_FORM>Y</ASP_FORM>"),
-                     QStringLiteral(" <ASP_Member>N</ASP_Member>"),
-                     QStringLiteral(" <ASP_Member_Number></ASP_Member_Number>"),
-                     QStringLiteral("</ASP>"), QString(), QString(), QString(),
-                     QStringLiteral("<TPA>"), QStringLiteral(" <TPA_FORM>Y</TPA_FORM>"),
-                     QStringLiteral(" <TPA_Member>Y</TPA_Member>"),
-                     QStringLiteral(" <TPA_Member_ID></TPA_Member_ID>"),
-                     QStringLiteral(" <Trial_License_Type>Trialware</Trial_License_Type>"),
-                     QStringLiteral("</TPA>"), QString(), QStringLiteral("</XML_DIZ_INFO>")}));
+    const qsizetype end = l.indexOf(u"</Permissions>"_s);
+    EXPECT_EQ(l.mid(end + 1).join(u'|'),
+              u"|<ASP>| <ASP_FORM>Y</ASP_FORM>| <ASP_Member>N</ASP_Member>|"
+              u" <ASP_Member_Number></ASP_Member_Number>|</ASP>||||<TPA>| <TPA_FORM>Y</TPA_FORM>|"
+              u" <TPA_Member>Y</TPA_Member>| <TPA_Member_ID></TPA_Member_ID>|"
+              u" <Trial_License_Type>Trialware</Trial_License_Type>|</TPA>||</XML_DIZ_INFO>"_s);
 }
 
 // Every Y/N row of the document and the report: a check box flag that is not 0 writes Y
@@ -152,12 +137,12 @@ TEST(PadText, EveryYesNoRowReadsItsOwnFlag) {
             p.setNumber(static_cast<PF>(row.field), value);
             const bool yes = row.kind == PadRowKind::MemberYesNo ? value == 1 : value != 0;
             const QString line = u'<' + QLatin1String(element) + u'>' + (yes ? u'Y' : u'N') +
-                                 QStringLiteral("</") + QLatin1String(element) + u'>';
+                                 u"</"_s + QLatin1String(element) + u'>';
             EXPECT_TRUE(lines(CreatePADText(CompanyRecord(), p)).filter(line).size() == 1)
                 << element << " = " << value;
             const QString reportLine = QLatin1String(fieldOf(row).reportCaption) +
-                                       QStringLiteral(": </b><FONT color=\"#000099\"><b>") +
-                                       (yes ? QStringLiteral("YES") : QStringLiteral("NO"));
+                                       u": </b><FONT color=\"#000099\"><b>"_s +
+                                       (yes ? u"YES"_s : u"NO"_s);
             EXPECT_TRUE(CreateVerificationReport(CompanyRecord(), p).contains(reportLine))
                 << element << " = " << value;
         }
@@ -170,8 +155,8 @@ TEST(WebInfo, OnlyAMemberFlagOfOneShowsTheMembership) {
         ProgramRecord p = emptyProgram();
         p.setNumber(PF::ASPMember, value);
         p.setText(PF::ASPMemberNumber, u"4711");
-        const QString block = CreateWebInfo(CompanyRecord(), p, QStringLiteral("http://asp.test"));
-        EXPECT_EQ(block.contains(QStringLiteral("ASP&nbsp;Member")), value == 1) << value;
-        EXPECT_EQ(block.contains(QStringLiteral(": 4711")), value == 1) << value;
+        const QString block = CreateWebInfo(CompanyRecord(), p, u"http://asp.test"_s);
+        EXPECT_EQ(block.contains(u"ASP&nbsp;Member"_s), value == 1) << value;
+        EXPECT_EQ(block.contains(u": 4711"_s), value == 1) << value;
     }
 }

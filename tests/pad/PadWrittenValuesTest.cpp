@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 using namespace brevaro::test;
 
 namespace {
@@ -36,9 +37,8 @@ TEST(PadWrittenValues, AreWhatTheWriterWrites) {
         qsizetype at = 0;
         for (const auto& v : padWrittenValues(company, program)) {
             // An empty value has the short form, or the full one in the extension blocks.
-            const QString shortForm = u'<' + v.element + QStringLiteral(" />");
-            const QString written =
-                u'<' + v.element + u'>' + v.value + QStringLiteral("</") + v.element + u'>';
+            const QString shortForm = u'<' + v.element + u" />"_s;
+            const QString written = u'<' + v.element + u'>' + v.value + u"</"_s + v.element + u'>';
             const qsizetype shortAt = v.value.isEmpty() ? pad.indexOf(shortForm, at) : -1;
             const qsizetype found = shortAt >= 0 ? shortAt : pad.indexOf(written, at);
             ASSERT_GE(found, 0) << written.toStdString();
@@ -54,7 +54,7 @@ TEST(PadWrittenValues, CoverEveryRuledElementOfTheDocument) {
         QStringList elements;
         for (const auto& v : padWrittenValues(company, program))
             elements << v.element;
-        static const QRegularExpression open(QStringLiteral("<([A-Za-z_0-9]+)( />|>)"));
+        static const QRegularExpression open(u"<([A-Za-z_0-9]+)( />|>)"_s);
         for (auto it = open.globalMatch(pad); it.hasNext();) {
             const QString element = it.next().captured(1);
             if (padFieldRule(element) && !element.startsWith(QLatin1String("MASTER_PAD"))) {
@@ -74,14 +74,14 @@ TEST(PadWrittenValues, EveryFieldHasTheWindowsLabelAndPlace) {
         SCOPED_TRACE(v.element.toStdString());
         EXPECT_FALSE(fieldLabel(v.side, v.field, v.entry).isEmpty());
         const QString place = fieldPlace(v.side, v.field, v.entry);
-        EXPECT_TRUE(mainTabCaptions().contains(place.section(QStringLiteral(", "), 0, 0)))
+        EXPECT_TRUE(mainTabCaptions().contains(place.section(u", "_s, 0, 0)))
             << place.toStdString();
         if (place.startsWith(QLatin1String("Descriptions"))) {
-            EXPECT_EQ(place.section(QStringLiteral(", "), 1), languageTabCaptions()[v.entry]);
+            EXPECT_EQ(place.section(u", "_s, 1), languageTabCaptions()[v.entry]);
         }
     }
+    // A field inside a frame names the frame too.
     EXPECT_EQ(fieldPlace(RecordSide::Company, int(CompanyField::AuthorEmail)),
-              QStringLiteral("Company Info, Author"));
-    EXPECT_EQ(fieldPlace(RecordSide::Company, int(CompanyField::CityTown)),
-              QStringLiteral("Company Info"));
+              u"Company Info, Author"_s);
+    EXPECT_EQ(fieldPlace(RecordSide::Company, int(CompanyField::CityTown)), u"Company Info"_s);
 }

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 using namespace brevaro;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -51,9 +52,9 @@ TEST(RecordBytes, ForeignBytesReadFieldByField) {
     CompanyRecord company;
     company.setBytes(c);
     EXPECT_EQ(company.number(CompanyField::CompanyID), 7);
-    EXPECT_EQ(company.text(CompanyField::CompanyName), QStringLiteral("Acme Tools"));
-    EXPECT_EQ(company.text(CompanyField::Country), QStringLiteral("Germany"));
-    EXPECT_EQ(company.text(CompanyField::FaxPhone), QStringLiteral("+49 30 1234"));
+    EXPECT_EQ(company.text(CompanyField::CompanyName), u"Acme Tools"_s);
+    EXPECT_EQ(company.text(CompanyField::Country), u"Germany"_s);
+    EXPECT_EQ(company.text(CompanyField::FaxPhone), u"+49 30 1234"_s);
 
     QByteArray p(32319, ' ');
     // Numeric fields (offset, size) are zero; everything else starts blank.
@@ -71,11 +72,11 @@ TEST(RecordBytes, ForeignBytesReadFieldByField) {
     put16(p, 422 + 2 * 3, -1);
     ProgramRecord program;
     program.setBytes(p);
-    EXPECT_EQ(program.text(ProgramField::ProgramName), QStringLiteral("Widget"));
-    EXPECT_EQ(program.text(ProgramField::Keywords, 2), QStringLiteral("french words"));
-    EXPECT_EQ(program.text(ProgramField::CharDesc2000, 8), QStringLiteral("russian long"));
-    EXPECT_EQ(program.text(ProgramField::EULA), QStringLiteral("licence"));
-    EXPECT_EQ(program.text(ProgramField::TrialLicenseType), QStringLiteral("Trialware"));
+    EXPECT_EQ(program.text(ProgramField::ProgramName), u"Widget"_s);
+    EXPECT_EQ(program.text(ProgramField::Keywords, 2), u"french words"_s);
+    EXPECT_EQ(program.text(ProgramField::CharDesc2000, 8), u"russian long"_s);
+    EXPECT_EQ(program.text(ProgramField::EULA), u"licence"_s);
+    EXPECT_EQ(program.text(ProgramField::TrialLicenseType), u"Trialware"_s);
     EXPECT_EQ(program.number(ProgramField::OSSupported, 26), -1);
     EXPECT_EQ(program.number(ProgramField::OSSupported, 25), 0);
     EXPECT_EQ(program.number(ProgramField::ExpireBasedOn, 3), -1);
@@ -86,30 +87,29 @@ TEST(RecordBytes, TextsAreCutOrBlankPadded) {
     c.setText(CompanyField::CompanyName, QString(41, u'x'));
     EXPECT_EQ(c.rawText(CompanyField::CompanyName), QString(40, u'x'));
     c.setText(CompanyField::CompanyName, u"abc");
-    EXPECT_EQ(c.rawText(CompanyField::CompanyName), QStringLiteral("abc") + QString(37, u' '));
-    EXPECT_EQ(c.text(CompanyField::CompanyName), QStringLiteral("abc"));
+    EXPECT_EQ(c.rawText(CompanyField::CompanyName), u"abc"_s + QString(37, u' '));
+    EXPECT_EQ(c.text(CompanyField::CompanyName), u"abc"_s);
     // The next field is untouched by either assignment.
     EXPECT_EQ(c.rawText(CompanyField::Address1), QString(30, u' '));
 
     c.setText(CompanyField::Address1, u"  two blanks\tand tab ");
-    EXPECT_EQ(c.trimText(CompanyField::Address1), QStringLiteral("two blanks\tand tab"));
-    EXPECT_EQ(c.rawText(CompanyField::Address1).left(19), QStringLiteral("two blanks\tand tab "));
+    EXPECT_EQ(c.trimText(CompanyField::Address1), u"two blanks\tand tab"_s);
+    EXPECT_EQ(c.rawText(CompanyField::Address1).left(19), u"two blanks\tand tab "_s);
 }
 
 TEST(RecordBytes, Windows1252OnDisk) {
     CompanyRecord c;
-    c.setText(CompanyField::CompanyName, QStringLiteral("Caf\u00e9 \u20ac \u0416"));
+    c.setText(CompanyField::CompanyName, u"Caf\u00e9 \u20ac \u0416"_s);
     const QByteArray name = c.bytes().mid(4, 8);
     EXPECT_EQ(name, QByteArray("Caf\xE9 \x80 ?"));
-    EXPECT_EQ(c.text(CompanyField::CompanyName), QStringLiteral("Caf\u00e9 \u20ac ?"));
+    EXPECT_EQ(c.text(CompanyField::CompanyName), u"Caf\u00e9 \u20ac ?"_s);
 
     // A character outside the basic plane is one character: one "?", one place of a width;
     // a lone surrogate is one "?" too.
-    QString lone = QStringLiteral("a\U0001F600b c");
+    QString lone = u"a\U0001F600b c"_s;
     lone[4] = QChar(0xD800);
     EXPECT_EQ(toWin1252(lone), QByteArray("a?b?c"));
-    c.setText(CompanyField::CompanyName,
-              QString(QString(39, u'x') + QStringLiteral("\U0001F600z")));
+    c.setText(CompanyField::CompanyName, QString(QString(39, u'x') + u"\U0001F600z"_s));
     EXPECT_EQ(c.rawText(CompanyField::CompanyName), QString(39, u'x') + u'?');
 }
 
@@ -145,7 +145,7 @@ TEST(RecordBytes, ShortBufferCompletesWithBlanksAndZeros) {
     ProgramRecord p;
     p.setBytes(QByteArray("\x05\x00\x00\x00Half", 8));
     EXPECT_EQ(p.number(ProgramField::CompanyID), 5);
-    EXPECT_EQ(p.text(ProgramField::ProgramName), QStringLiteral("Half"));
+    EXPECT_EQ(p.text(ProgramField::ProgramName), u"Half"_s);
     EXPECT_EQ(p.number(ProgramField::TPAMember), 0);
     EXPECT_EQ(p.rawText(ProgramField::TrialLicenseType), QString(25, u' '));
 }
