@@ -76,16 +76,22 @@ void CompanyCommands::OpenCompanies() {
         m_transfer.CompanyToScreen();
     }
     m_transfer.EnableCompanyFields(any);
+    m_navigation.EnableCommands();
 }
 
 CommandResult CompanyCommands::NewCompany() {
     if (!m_navigation.isCompanyDirty())
         return CommandResult::failed(m_core.store.errorString());
-    return m_side.askAndCreate(GetCompanyCount());
+    const auto name = m_side.askName();
+    if (!name)
+        return CommandResult::declined();
+    CreateCompany(*name);
+    return CommandResult::done();
 }
 
 void CompanyCommands::CreateCompany(const QString& name) {
     m_side.create(name, GetCompanyCount());
+    m_navigation.EnableCommands();
 }
 
 CommandResult CompanyCommands::SaveCompany() {

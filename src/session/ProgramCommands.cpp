@@ -103,7 +103,11 @@ void ProgramCommands::OpenPrograms() {
 CommandResult ProgramCommands::NewProgram() {
     if (!m_navigation.isProgramDirty())
         return CommandResult::failed(m_core.store.errorString());
-    return m_side.askAndCreate(GetProgramCount());
+    const auto name = m_side.askName();
+    if (!name)
+        return CommandResult::declined();
+    CreateProgram(*name);
+    return CommandResult::done();
 }
 
 void ProgramCommands::CreateProgram(const QString& name) {

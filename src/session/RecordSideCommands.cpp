@@ -47,15 +47,14 @@ RecordSideCommands::RecordSideCommands(SessionCore& core, ScreenTransfer& transf
     , m_transfer(transfer)
     , m_side(side) {}
 
-CommandResult RecordSideCommands::askAndCreate(int storedCount) {
+std::optional<QString> RecordSideCommands::askName() {
     const Side& s = sideOf(m_side);
     const auto answer = m_core.prompts.inputBox(QString::fromUtf8(s.question),
                                                 QString::fromUtf8(s.title), QString());
     const QString name = trimBlanks(answer.value_or(QString()));
     if (name.isEmpty())
-        return CommandResult::declined();
-    create(name, storedCount);
-    return CommandResult::done();
+        return std::nullopt;
+    return name;
 }
 
 void RecordSideCommands::create(const QString& name, int storedCount) {

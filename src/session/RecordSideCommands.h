@@ -4,6 +4,7 @@
 #include "session/CommandResult.h"
 
 #include <QString>
+#include <optional>
 
 namespace brevaro {
 
@@ -17,8 +18,8 @@ class RecordSideCommands {
 public:
     RecordSideCommands(SessionCore& core, ScreenTransfer& transfer, RecordSide side);
 
-    // Asks for the new record's name and starts it; declined when no name is given.
-    CommandResult askAndCreate(int storedCount);
+    // Asks for the new record's name: trimmed, nothing when none is given.
+    std::optional<QString> askName();
     // Starts a new record named name after the storedCount records on disk: the fields are
     // cleared and enabled, the name is shown in the selector, and the first field is focused.
     void create(const QString& name, int storedCount);

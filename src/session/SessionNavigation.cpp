@@ -162,13 +162,28 @@ void SessionNavigation::tabSelected() {
     }
     const int tab = screen.at(tabs).listIndex;
     SimpleText(mainTabCaptions().value(tab));
+    m_tabRule = tab;
+    EnableCommands();
+}
+
+void SessionNavigation::EnableCommands() {
+    using A = ControlAction;
+    const bool company = !m_core.screen.at(u"cboCompanyName").items.isEmpty();
     // The company commands on the company tab, the program commands on the program tab, and
     // Save Program on every other tab.
-    using A = ControlAction;
-    for (const A company : {A::NewCompany, A::SaveCompany, A::DeleteCompany})
-        m_core.setCommandEnabled(company, tab == 0);
-    for (const A program : {A::NewProgram, A::SaveProgram, A::DeleteProgram})
-        m_core.setCommandEnabled(program, tab == 1 || (tab > 1 && program == A::SaveProgram));
+    const int tab = m_tabRule;
+    auto byTab = [tab](A action, bool onCompanyTab) {
+        if (tab < 0)
+            return true;
+        return onCompanyTab ? tab == 0 : tab == 1 || (tab > 1 && action == A::SaveProgram);
+    };
+    m_core.setCommandEnabled(A::NewCompany, byTab(A::NewCompany, true));
+    for (const A a : {A::SaveCompany, A::DeleteCompany})
+        m_core.setCommandEnabled(a, company && byTab(a, true));
+    for (const A a : {A::NewProgram, A::SaveProgram, A::DeleteProgram})
+        m_core.setCommandEnabled(a, company && byTab(a, false));
+    for (const A a : {A::VerifyPAD, A::CreatePAD, A::Submit, A::CheckPAD})
+        m_core.setCommandEnabled(a, company);
 }
 
 } // namespace brevaro

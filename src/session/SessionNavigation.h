@@ -35,8 +35,13 @@ public:
     void companySelected();
     void programSelected();
     void tabSelected();
+    // Enables the commands in one place: those that act on a company or its programs wait
+    // for a company to exist, and once a tab has been chosen, each record's commands follow
+    // the tab rule.
+    void EnableCommands();
 
 private:
+    int m_tabRule = -1; // the tab whose rule the commands follow; none before a tab is chosen
     void setModified(QStringView selector, bool& flag, bool modified);
 
     SessionCore& m_core;

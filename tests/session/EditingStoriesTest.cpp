@@ -179,7 +179,16 @@ TEST_F(SessionTest, SelectingCompaniesShowsTheirOwnPrograms) {
     EXPECT_FALSE(session->companies().FindCompany(QStringLiteral("b")));
 }
 
+// Commands that need a company wait for one; commands that live outside the session say so
+// until they are supplied.
 TEST_F(SessionTest, CommandsThatAreNotBuiltSaySo) {
+    // An empty home has nothing to submit.
+    EXPECT_EQ(command(ControlAction::Submit).outcome, CommandResult::Outcome::Refused);
+    EXPECT_FALSE(at(u"cmdButton", 8).enabled);
+    EXPECT_FALSE(at(u"cmdButton", 3).enabled);
+    EXPECT_TRUE(at(u"cmdButton", 0).enabled);
+    addCompany(QStringLiteral("Acme"));
+    EXPECT_TRUE(at(u"cmdButton", 3).enabled);
     command(ControlAction::Submit);
     EXPECT_TRUE(prompts.messages.isEmpty());
     EXPECT_EQ(status(), QStringLiteral("Submit is not available yet."));
