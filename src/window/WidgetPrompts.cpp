@@ -39,8 +39,7 @@ private:
 
 } // namespace
 
-bool WidgetPrompts::askYesNo(const QString& title, const QString& text, Icon icon,
-                             Default answer) {
+bool WidgetPrompts::askYesNo(const QString& title, const QString& text, Icon icon, Default answer) {
     QMessageBox box(m_parent);
     box.setWindowTitle(title);
     box.setText(text);

@@ -14,8 +14,7 @@ public:
     // The window the boxes belong to (set once it exists).
     void setParentWindow(QWidget* window) { m_parent = window; }
 
-    bool askYesNo(const QString& title, const QString& text, Icon icon,
-                  Default answer) override;
+    bool askYesNo(const QString& title, const QString& text, Icon icon, Default answer) override;
     std::optional<QString> inputBox(const QString& prompt, const QString& title,
                                     const QString& defaultText) override;
     std::optional<QString> openFile(const FileDialogRequest& dialog) override;
