@@ -76,6 +76,10 @@ void KeywordSuggester::checkHomepage() {
     if (m_cancelled)
         return;
     count();
+    // A failed fetch says what failed after the transfer's own texts.
+    if (!m_http.errorString().isEmpty())
+        simpleText(status + QStringLiteral(" The home page could not be fetched: ") +
+                   m_http.errorString());
 }
 
 void KeywordSuggester::checkPage(const QString& page) {

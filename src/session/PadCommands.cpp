@@ -8,6 +8,7 @@
 #include "pad/VerificationReport.h"
 #include "platform/FileHelpers.h"
 #include "platform/FileNames.h"
+#include "platform/StringHelpers.h"
 #include "platform/Win1252.h"
 #include "session/CompanyCommands.h"
 #include "session/ProgramCommands.h"
@@ -112,6 +113,15 @@ CommandResult PadCommands::CreatePADFile() {
     if (m_core.state.CompanyDirty || m_core.state.ProgramDirty) {
         m_core.prompts.beep();
         const QString why = QStringLiteral("You MUST save before you can create your PAD file ...");
+        m_navigation.SimpleText(why);
+        return CommandResult::refused(why);
+    }
+    // A PAD file names its company and its program: without them there is nothing to write.
+    if (trimBlanks(m_core.company.text(CompanyField::CompanyName)).isEmpty() ||
+        trimBlanks(m_core.program.text(ProgramField::ProgramName)).isEmpty()) {
+        const QString why = QStringLiteral("Create PAD needs a saved company and program, each "
+                                           "with a name: no PAD file was written.");
+        m_core.prompts.beep();
         m_navigation.SimpleText(why);
         return CommandResult::refused(why);
     }

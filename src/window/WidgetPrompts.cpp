@@ -1,5 +1,7 @@
 #include "window/WidgetPrompts.h"
 
+#include "AppVersion.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
@@ -9,6 +11,7 @@
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QUrl>
 
 namespace brevaro {
@@ -141,8 +144,27 @@ void WidgetPrompts::setClipboardText(const QString& text) {
 }
 
 void WidgetPrompts::openDocument(const QString& target) {
-    if (const QUrl url = documentUrl(target); url.isValid() && !url.isEmpty())
-        QDesktopServices::openUrl(url);
+    const QUrl url = documentUrl(target);
+    if (!url.isValid() || url.isEmpty() || QDesktopServices::openUrl(url))
+        return;
+    // No program is set up to open it: say so, and offer what to copy.
+    const QString shown =
+        url.isLocalFile() ? QDir::toNativeSeparators(url.toLocalFile()) : url.toString();
+    QMessageBox box(m_parent);
+    box.setObjectName(QStringLiteral("msgCannotOpen"));
+    box.setWindowTitle(QLatin1String(kAppTitle));
+    box.setIcon(QMessageBox::Information);
+    box.setText((url.isLocalFile() ? QStringLiteral("No program on this computer is set up to "
+                                                    "open this file:")
+                                   : QStringLiteral("No web browser is set up on this computer "
+                                                    "to open this address:")) +
+                QStringLiteral("\n\n") + shown);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QPushButton* copy = box.addButton(QStringLiteral("&Copy"), QMessageBox::ActionRole);
+    box.addButton(QMessageBox::Close);
+    box.exec();
+    if (box.clickedButton() == copy)
+        QApplication::clipboard()->setText(shown);
 }
 
 void WidgetPrompts::pumpEvents() {

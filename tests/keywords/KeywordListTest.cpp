@@ -115,6 +115,13 @@ TEST_F(SessionTest, KeywordSuggesterFetchesAndFillsTheSelectedLanguage) {
     suggester.url = u"http://127.0.0.1:1/"_s;
     suggester.checkHomepage();
     EXPECT_EQ(suggester.list().size(), 0);
+    // The status says what failed, after the transfer's own words; a missing page too.
+    EXPECT_TRUE(suggester.status.startsWith(
+        u"Disconnected, Done ... The home page could not be fetched: "_s))
+        << suggester.status.toStdString();
+    suggester.url = server.url("/missing");
+    suggester.checkHomepage();
+    EXPECT_TRUE(suggester.status.contains(u"could not be fetched"_s));
     EXPECT_EQ(suggester.keywords, u"Editor, fast"_s);
     suggester.keywords = u"   "_s;
     ok();

@@ -70,6 +70,12 @@ TEST_F(CreatePadTest, UnsavedChangesStopIt) {
     command(ControlAction::CreatePAD);
     EXPECT_EQ(prompts.dialogs.size(), 1);
     EXPECT_TRUE(QDir(home.file(u"pad/.._.._x"_s)).isEmpty());
+    // A program that has no name: Create PAD says why it writes nothing.
+    type(u"cboProgramName", QString());
+    command(ControlAction::SaveProgram);
+    EXPECT_EQ(command(ControlAction::CreatePAD).outcome, CommandResult::Outcome::Refused);
+    EXPECT_TRUE(status().contains(u"no PAD file was written"_s)) << status().toStdString();
+    EXPECT_EQ(prompts.dialogs.size(), 1);
 }
 
 TEST_F(CreatePadTest, VerifyWritesThePageAndOpensIt) {
