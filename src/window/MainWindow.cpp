@@ -13,6 +13,7 @@
 #include "window/CompanyTabWidget.h"
 #include "window/ControlBindingView.h"
 #include "window/DescriptionsTabWidget.h"
+#include "window/FirstStartWidget.h"
 #include "window/KeywordsDialog.h"
 #include "window/LinkLabelWidget.h"
 #include "window/PadCheckDialog.h"
@@ -29,6 +30,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScrollArea>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTimer>
@@ -56,7 +58,25 @@ MainWindow::MainWindow(EditingSession& session, QWidget* parent)
     column->addWidget(m_strip);
     auto* middle = new QHBoxLayout;
     middle->addWidget(new ButtonBarWidget(*m_view, used));
-    middle->addWidget(buildTabs(), 1);
+    // The form area: the tabs, or on a home without a company what to do first.
+    auto* forms = new QStackedWidget;
+    forms->setObjectName(QStringLiteral("stkForms"));
+    QWidget* tabs = buildTabs();
+    auto* firstStart = new FirstStartWidget(*m_view);
+    forms->addWidget(tabs);
+    forms->addWidget(firstStart);
+    const int companies = session.screen().id(u"cboCompanyName");
+    auto showForms = [&session, forms, tabs, firstStart, companies] {
+        const bool none = session.screen().at(companies).items.isEmpty();
+        forms->setCurrentWidget(none ? static_cast<QWidget*>(firstStart) : tabs);
+    };
+    connect(&session.screen(), &ScreenModel::controlChanged, forms,
+            [showForms, companies](int id, unsigned) {
+                if (id == companies)
+                    showForms();
+            });
+    showForms();
+    middle->addWidget(forms, 1);
     column->addLayout(middle, 1);
     column->addWidget(buildCopyright());
     setCentralWidget(central);
