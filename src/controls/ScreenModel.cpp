@@ -42,6 +42,14 @@ bool ScreenModel::has(QStringView name, int index) const {
 }
 
 void ScreenModel::setText(int id, const QString& text) {
+    changeText(id, text, 0);
+}
+
+void ScreenModel::replaceText(int id, const QString& text) {
+    changeText(id, text, kReplacedByCommand);
+}
+
+void ScreenModel::changeText(int id, const QString& text, unsigned how) {
     ControlState& s = state(id);
     if (s.text == text)
         return;
@@ -55,7 +63,7 @@ void ScreenModel::setText(int id, const QString& text) {
         s.listIndex = item;
     }
     s.text = text;
-    changed(id, kChangedText | kChangedSelection);
+    changed(id, kChangedText | kChangedSelection | how);
     if (m_events)
         m_events->onChange(id);
 }

@@ -52,6 +52,8 @@ enum ControlChange : unsigned {
     kChangedToolTip = 64,
     kChangedCaption = 128,
     kItemAdded = 256, // one entry appended to the list (the others are as they were)
+    kReplacedByCommand =
+        512, // with kChangedText: a command replaced the text, as one undoable step
 };
 
 // Receives the events that a control raises, whether the user or the program changed it.
@@ -84,6 +86,9 @@ public:
 
     // Raise events.
     void setText(int id, const QString& text);
+    // The same for a command that replaces what the user sees in a box (a copy, a default
+    // text, the keywords, File Info): the view keeps it undoable in the box.
+    void replaceText(int id, const QString& text);
     void setListIndex(int id, int index);
     void setValue(int id, int value);
     void setItemSelected(int id, int item, bool selected);
@@ -114,6 +119,9 @@ public:
     void setText(QStringView name, const QString& t, int index = -1) {
         setText(id(name, index), t);
     }
+    void replaceText(QStringView name, const QString& t, int index = -1) {
+        replaceText(id(name, index), t);
+    }
     bool enabled(QStringView name, int index = -1) const { return at(name, index).enabled; }
     int value(QStringView name, int index = -1) const { return at(name, index).value; }
 
@@ -127,6 +135,7 @@ signals:
 
 private:
     ControlState& state(int id);
+    void changeText(int id, const QString& text, unsigned how);
     void changed(int id, unsigned what) { emit controlChanged(id, what); }
 
     std::vector<ControlState> m_controls;

@@ -67,7 +67,7 @@ void FieldAssistance::copyField(const ControlRow& button) {
 
 void FieldAssistance::copyDescription(const ControlRow& button) {
     const int lang = selectedLanguage();
-    m_core.setText(button.target, m_core.text(button.source, lang), lang);
+    m_core.replaceText(button.target, m_core.text(button.source, lang), lang);
 }
 
 void FieldAssistance::translate(const ControlRow& button) {
@@ -77,7 +77,7 @@ void FieldAssistance::translate(const ControlRow& button) {
 }
 
 void FieldAssistance::applyKeywords(const QString& keywords) {
-    m_core.setText(u"txtKeywords", keywords, selectedLanguage());
+    m_core.replaceText(u"txtKeywords", keywords, selectedLanguage());
 }
 
 } // namespace brevaro

@@ -49,13 +49,13 @@ void ProgramTabTools::openFileInfo() {
     const QString extension = GetFileExtension(title);
     const QString name6 = base.left(6);
     const QString ver2 = removeAll(m_core.text(u"txtProgramVersion"), u".").left(2);
-    m_core.setText(u"txtVersionedFilename", name6 + ver2 + u'.' + extension);
-    m_core.setText(u"txtPreviousFilename", name6 + ver2 + u'.' + extension);
-    m_core.setText(u"txtGenericFilename", name6 + u'.' + extension);
-    m_core.setText(u"txtLongFilename", title);
-    m_core.setText(u"txtSizeByte", QString::number(length));
-    m_core.setText(u"txtSizeKB", kilobytes(length));
-    m_core.setText(u"txtSizeMB", megabytes(length));
+    m_core.replaceText(u"txtVersionedFilename", name6 + ver2 + u'.' + extension);
+    m_core.replaceText(u"txtPreviousFilename", name6 + ver2 + u'.' + extension);
+    m_core.replaceText(u"txtGenericFilename", name6 + u'.' + extension);
+    m_core.replaceText(u"txtLongFilename", title);
+    m_core.replaceText(u"txtSizeByte", QString::number(length));
+    m_core.replaceText(u"txtSizeKB", kilobytes(length));
+    m_core.replaceText(u"txtSizeMB", megabytes(length));
 }
 
 void ProgramTabTools::expiryCheckClicked() {
@@ -115,13 +115,13 @@ void ProgramTabTools::insertDefaultText(int which, const QString& box) {
     m_core.company.trimText(CompanyField::CompanyName);
     m_core.program.trimText(ProgramField::ProgramName);
     m_core.program.trimText(ProgramField::ProgramType);
-    m_core.setText(box, defaultText(which));
+    m_core.replaceText(box, defaultText(which));
 }
 
 void ProgramTabTools::loadText(const QString& box) {
     const QString loaded = ReadTextFileDialog(m_core.prompts, m_core.store.home().root());
     if (!loaded.isEmpty())
-        m_core.setText(box, loaded);
+        m_core.replaceText(box, loaded);
 }
 
 void ProgramTabTools::saveText(const QString& box) {

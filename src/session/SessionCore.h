@@ -35,6 +35,10 @@ struct SessionCore {
     void setText(QStringView name, const QString& text, int index = -1) {
         screen.setText(id(name, index), text);
     }
+    // A command's new text for a box, undoable there.
+    void replaceText(QStringView name, const QString& text, int index = -1) {
+        screen.replaceText(id(name, index), text);
+    }
     // Above 0 while a record is shown from its file: the screen's changes then are not edits,
     // and nothing is marked modified.
     int loadingRecords = 0;

@@ -132,9 +132,11 @@ void ControlBindingView::create(int id) {
     if (m_actions.contains(id))
         return;
     if (r.widget == WidgetType::MenuItem || r.widget == WidgetType::MenuSeparator) {
-        auto* a = new QAction(r.caption, this);
+        // A separator has no text: screen readers would read its "-".
+        const bool separator = r.widget == WidgetType::MenuSeparator;
+        auto* a = new QAction(separator ? QString() : r.caption, this);
         a->setObjectName(r.objectName());
-        a->setSeparator(r.widget == WidgetType::MenuSeparator);
+        a->setSeparator(separator);
         if (const QString icon = iconPath(r); !icon.isEmpty())
             a->setIcon(QIcon(icon));
         // A second entry of a command (Tools, Submit) runs the command's action.
@@ -316,13 +318,26 @@ void ControlBindingView::repaintValue(int id, QWidget* w, unsigned what) {
     const ControlState& s = m_session.screen().at(id);
     if (auto* e = qobject_cast<QLineEdit*>(w)) {
         if ((what & kChangedText) && e->text() != s.text) {
-            e->setText(s.text);
+            if (what & kReplacedByCommand) {
+                // As typed over a selection of everything: Ctrl+Z brings the old text back.
+                e->selectAll();
+                e->insert(s.text);
+            } else {
+                e->setText(s.text);
+            }
             // A loaded text shows from its start, as a freshly filled box does.
             e->setCursorPosition(0);
         }
     } else if (auto* e = qobject_cast<QPlainTextEdit*>(w)) {
-        if ((what & kChangedText) && fromEditor(editorText(e)) != s.text)
-            e->setPlainText(toEditor(s.text));
+        if ((what & kChangedText) && fromEditor(editorText(e)) != s.text) {
+            if (what & kReplacedByCommand) {
+                QTextCursor all(e->document());
+                all.select(QTextCursor::Document);
+                all.insertText(toEditor(s.text)); // one undoable step
+            } else {
+                e->setPlainText(toEditor(s.text));
+            }
+        }
     } else if (auto* c = qobject_cast<QComboBox*>(w)) {
         const QSignalBlocker block(c);
         if (what & kChangedItems) {
