@@ -83,6 +83,7 @@ MainWindow::MainWindow(EditingSession& session, QWidget* parent)
     setStatusBar(qobject_cast<QStatusBar*>(m_view->widget(u"StatusBar1")));
     setTabOrder();
     setCommandHandlers();
+    addShortcuts();
     connect(&session, &EditingSession::closeRequested, this, [this] {
         m_shutDown = true;
         close();
@@ -159,20 +160,54 @@ void MainWindow::setTabOrder() {
             QWidget::setTabOrder(previous, w);
         previous = w;
     };
+    // The fields in table order, each followed by the buttons beside it; the buttons of a
+    // frame that stand on their own (Same As Author) follow the frame's last field.
+    std::vector<int> fields;
     for (int id : m_view->ids()) {
         const ControlRow& r = m_view->row(id);
-        QWidget* w = m_view->widget(id);
-        if (r.side == RecordSide::None || !w || r.place == Place::Hidden)
-            continue;
-        chain(w);
-        if (r.index > 0)
-            continue;
+        if (r.side != RecordSide::None && m_view->widget(id) && r.place != Place::Hidden)
+            fields.push_back(id);
+    }
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        const ControlRow& r = m_view->row(fields[i]);
+        chain(m_view->widget(fields[i]));
+        const bool lastOfFrame =
+            i + 1 == fields.size() || m_view->row(fields[i + 1]).frame != r.frame;
         for (int other : m_view->ids()) {
             const ControlRow& o = m_view->row(other);
-            if (o.beside == r.name && o.action != ControlAction::None && m_view->widget(other))
+            if (o.action == ControlAction::None || !m_view->widget(other) ||
+                o.place != Place::MainTab)
+                continue;
+            const bool beside = r.index <= 0 && o.beside == r.name;
+            const bool onItsOwn =
+                lastOfFrame && o.beside.isEmpty() && o.frame == r.frame && !r.frame.isEmpty();
+            if (beside || onItsOwn)
                 chain(m_view->widget(other));
         }
     }
+}
+
+void MainWindow::addShortcuts() {
+    // The platform's standard keys. Save and New act on the record the shown tab holds: the
+    // company on its tab, the program on every other.
+    auto onShownRecord = [this](QKeySequence::StandardKey key, ControlAction company,
+                                ControlAction program) {
+        auto* a = new QAction(this);
+        a->setShortcuts(key);
+        connect(a, &QAction::triggered, this, [this, company, program] {
+            const bool companyTab = m_session.screen().at(u"SSTab1").listIndex == 0;
+            if (QAction* command = m_view->command(companyTab ? company : program);
+                command && command->isEnabled())
+                command->trigger();
+        });
+        addAction(a);
+    };
+    onShownRecord(QKeySequence::Save, ControlAction::SaveCompany, ControlAction::SaveProgram);
+    onShownRecord(QKeySequence::New, ControlAction::NewCompany, ControlAction::NewProgram);
+    if (QAction* import = m_view->command(ControlAction::ImportPAD))
+        import->setShortcuts(QKeySequence::Open);
+    if (QAction* exit = m_view->command(ControlAction::Exit))
+        exit->setShortcuts(QKeySequence::Quit);
 }
 
 void MainWindow::setCommandHandlers() {

@@ -36,6 +36,7 @@ private:
     QWidget* buildCopyright();
     void setTabOrder();
     void setCommandHandlers();
+    void addShortcuts();
 
     EditingSession& m_session;
     ControlBindingView* m_view;
