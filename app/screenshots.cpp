@@ -1,12 +1,20 @@
 // Writes a picture of every tab of the main window, of the about box and of an empty home to
-// a folder, for the documentation: brevaro-screenshots OUTPUT_DIR PAD_FILE
+// a folder, for the documentation: brevaro-screenshots OUTPUT_DIR PAD_FILE. With the demo
+// server ($BREVARO_SERVER) also the keyword window, the site list and the submission browser.
+#include "keywords/KeywordSuggester.h"
+#include "platform/HttpTransfer.h"
 #include "platform/SilentPrompts.h"
+#include "platform/WebAddresses.h"
 #include "session/EditingSession.h"
 #include "store/AppHome.h"
 #include "store/RecordStore.h"
+#include "submission/SiteList.h"
 #include "window/AboutDialog.h"
 #include "window/ControlBindingView.h"
+#include "window/KeywordsDialog.h"
 #include "window/MainWindow.h"
+#include "window/SiteListDialog.h"
+#include "window/SubmissionPluginLoader.h"
 
 #include <QAction>
 #include <QApplication>
@@ -16,6 +24,7 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 using namespace brevaro;
 
@@ -33,7 +42,51 @@ bool save(QWidget& w, const QString& dir, const char* name) {
 
 } // namespace
 
+// The windows that fetch from the maker's server, drawn once their data has come.
+bool saveDemoWindows(MainWindow& window, EditingSession& session, Prompts& prompts,
+                     const QString& out) {
+    bool ok = true;
+    HttpTransfer http;
+    KeywordSuggester suggester(session.text(u"cboProgramName"),
+                               makerServer() + QStringLiteral("/notes.html"), http);
+    {
+        KeywordsDialog keywords(suggester, &window);
+        keywords.show();
+        keywords.checkHomepage();
+        ok &= save(keywords, out, "keywords");
+    }
+    SiteList sites(session.store().home().siteListFile(), http);
+    sites.Download();
+    {
+        SiteListDialog list(sites, &window);
+        list.show();
+        ok &= save(list, out, "sites");
+    }
+    // The browser is modal: it is drawn a while after it shows, once its page has loaded and
+    // been filled, and then closed.
+    QTimer poll;
+    int seenFor = 0;
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+        for (QWidget* top : QApplication::topLevelWidgets()) {
+            if (top->objectName() != u"frmBrowser" || !top->isVisible() || ++seenFor < 25)
+                continue;
+            poll.stop();
+            ok &= save(*top, out, "browser");
+            top->close();
+        }
+    });
+    poll.start(1000);
+    QString error;
+    if (!openSubmissionBrowser(&window, session.company(), session.program(),
+                               session.store().home().root(), prompts, &error)) {
+        qWarning("%s", qPrintable(error));
+        return false;
+    }
+    return ok;
+}
+
 int main(int argc, char* argv[]) {
+    prepareForSubmissionBrowser();
     QApplication app(argc, argv);
     // The pointer away from the window, so no link is drawn as hovered.
     QCursor::setPos(1200, 0);
@@ -82,5 +135,8 @@ int main(int argc, char* argv[]) {
     AboutDialog about(prompts, &window);
     about.show();
     ok &= save(about, out, "about");
+    about.close();
+    if (!qEnvironmentVariableIsEmpty("BREVARO_SERVER"))
+        ok &= saveDemoWindows(window, session, prompts, out);
     return ok ? 0 : 1;
 }

@@ -127,6 +127,12 @@ def main():
         with open(os.path.join(WWW, "dir", "%d.html" % i), "w") as out:
             out.write("<html><body><h1>Directory %d</h1><form><input name=padfile size=60> "
                       "<input name=User> <input type=password name=Password></form></body></html>\n" % i)
+    with open(os.path.join(WWW, "notes.html"), "w") as out:
+        out.write("<html><head><title>Harbour Notes</title></head><body><h1>Harbour Notes</h1>"
+                  "<p>Harbour Notes is an outliner for notes, journals and lists. Notes sync between "
+                  "your machines, notes are searchable as you type, and journals keep notes by "
+                  "date. Outliner keys move notes, lists and journals; sync keeps notes safe.</p>"
+                  "<p>Download the outliner for notes and journals today.</p></body></html>\n")
     with open(os.path.join(WWW, "unsignedpadfile.php"), "w") as out:
         out.write("<html><body><h1>Quorin submission page (demo)</h1><form><input name=padfile size=60>"
                   "</form></body></html>\n")

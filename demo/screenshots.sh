@@ -33,6 +33,12 @@ cli set -c 1 -p 1 ProgramVersion=2.4.1 ReleaseMonth=11 ReleaseDay=02 ReleaseYear
     PrimaryDownloadURL=http://www.northwind.example/notes/hnotes241.zip
 build/bin/brevaro-cli --home "$tmp/home" pad -c 1 -p 1 -o "$tmp/harbour.xml" >/dev/null
 mkdir -p "$out"
+# The windows that fetch (keywords, site list, browser) use the demo maker's server.
+port=$((20000 + RANDOM % 20000))
+python3 demo/serve.py "$port" >/dev/null 2>&1 &
+server=$!
+trap 'kill $server 2>/dev/null; rm -rf "$tmp"' EXIT
+sleep 1
 # The window is drawn by a real X server so that fonts and themes are those of a desktop.
-xvfb-run -a build/bin/brevaro-screenshots "$out" "$tmp/harbour.xml"
+QTWEBENGINE_CHROMIUM_FLAGS=--disable-gpu BREVARO_SERVER="http://127.0.0.1:$port" xvfb-run -a build/bin/brevaro-screenshots "$out" "$tmp/harbour.xml"
 ls "$out"

@@ -13,6 +13,8 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 def main():
     port = int(sys.argv[1]) if len(sys.argv) > 1 else 8765
     subprocess.run([sys.executable, os.path.join(HERE, "make_demo.py")], check=True)
+    # The maker's pages end in .php, as on the real server, which sends them as HTML.
+    http.server.SimpleHTTPRequestHandler.extensions_map[".php"] = "text/html"
     handler = functools.partial(http.server.SimpleHTTPRequestHandler, directory=os.path.join(HERE, "www"))
     server = http.server.ThreadingHTTPServer(("127.0.0.1", port), handler)
     print("Serving the demo maker's server at http://127.0.0.1:%d (Ctrl+C stops it)" % port)

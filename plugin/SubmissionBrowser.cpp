@@ -26,6 +26,7 @@
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <QWebEngineDownloadRequest>
 #include <QWebEnginePage>
 #include <QWebEngineProfile>
 #include <QWebEngineView>
@@ -35,6 +36,9 @@
 namespace brevaro {
 
 namespace {
+
+// As every transfer: a page gets 30 seconds.
+constexpr int kPageLoadLimitMs = 30000;
 
 // The info list is a column of fixed width at the right; everything else follows the window.
 constexpr int kInfoColumnWidth = 360;
@@ -96,6 +100,23 @@ void SubmissionBrowser::buildControls() {
     m_iex->setObjectName(QStringLiteral("iex"));
     m_iex->setPage(new QWebEnginePage(m_profile, m_iex));
     connect(m_iex, &QWebEngineView::loadFinished, this, &SubmissionBrowser::pageLoaded);
+    // A page is held to the limits of every transfer: one that has not finished within them
+    // is stopped, and an address that is a file to download is not followed.
+    m_loadLimit = new QTimer(this);
+    m_loadLimit->setSingleShot(true);
+    m_loadLimit->setInterval(kPageLoadLimitMs);
+    connect(m_loadLimit, &QTimer::timeout, this, [this] {
+        loadFailed(QStringLiteral("The page did not finish loading within %1 seconds: check the "
+                                  "address, or press Refresh to try again.")
+                       .arg(kPageLoadLimitMs / 1000));
+    });
+    connect(m_profile, &QWebEngineProfile::downloadRequested, this,
+            [this](QWebEngineDownloadRequest* download) {
+                download->cancel();
+                loadFailed(QStringLiteral("The address is a file to download, not a page to "
+                                          "fill: ") +
+                           download->url().toString());
+            });
 
     m_lstInfo = new QTreeWidget;
     m_lstInfo->setObjectName(QStringLiteral("lstInfo"));
@@ -374,15 +395,29 @@ void SubmissionBrowser::navigate() {
     connect(m_iex, &QWebEngineView::loadProgress, m_progress, &QProgressBar::setValue,
             Qt::UniqueConnection);
     m_iex->load(QUrl::fromUserInput(m_session.txtURL));
+    m_loadLimit->start();
 }
 
-void SubmissionBrowser::pageLoaded(bool) {
+void SubmissionBrowser::loadFailed(const QString& why) {
+    m_loadLimit->stop();
+    m_iex->stop();
+    m_progress->hide();
+    m_session.EnableControls();
+    m_session.SimpleText(why);
+}
+
+void SubmissionBrowser::pageLoaded(bool ok) {
     // The "Loading" text shown while the site list is fetched is not a submission page.
     if (m_iex->url().toString() == m_placeholder || m_iex->url().scheme() == u"data")
         return;
+    if (!m_loadLimit->isActive() && !ok)
+        return; // stopped: loadFailed said why
+    m_loadLimit->stop();
     m_progress->hide();
     FillKnownFields();
-    m_session.SimpleText(QString());
+    m_session.SimpleText(ok ? QString()
+                            : QStringLiteral("The page could not be loaded: ") +
+                                  m_iex->url().toString());
 }
 
 void SubmissionBrowser::FillKnownFields() {

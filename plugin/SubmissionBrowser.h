@@ -67,6 +67,8 @@ private:
     void showSession();
     void showInfoList();
     void pageLoaded(bool ok);
+    // A page that cannot be shown: the load stops, the reason shows, the window stays usable.
+    void loadFailed(const QString& why);
     void FillKnownFields();
     using Done = std::function<void()>;
     void fillUpload(const KnownInput& input, const Done& done);
@@ -96,6 +98,7 @@ private:
     QLabel* m_lblInfo = nullptr;
     QStatusBar* m_statusBar = nullptr;
     QProgressBar* m_progress = nullptr;
+    QTimer* m_loadLimit = nullptr; // a page that has not finished by then is stopped
     QAction* m_exit = nullptr;
 };
 
