@@ -34,7 +34,7 @@ cli set -c 1 -p 1 ProgramVersion=2.4.1 ReleaseMonth=11 ReleaseDay=02 ReleaseYear
 build/bin/brevaro-cli --home "$tmp/home" pad -c 1 -p 1 -o "$tmp/harbour.xml" >/dev/null
 mkdir -p "$out"
 # The windows that fetch (keywords, site list, browser) use the demo maker's server.
-port=$((20000 + RANDOM % 20000))
+port=8765 # the port the demo data names
 python3 demo/serve.py "$port" >/dev/null 2>&1 &
 server=$!
 trap 'kill $server 2>/dev/null; rm -rf "$tmp"' EXIT
