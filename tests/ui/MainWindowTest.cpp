@@ -22,6 +22,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
@@ -403,4 +404,56 @@ TEST_F(MainWindowTest, WidgetsAndModelStayInStep) {
     ASSERT_FALSE(before.isEmpty());
     window->statusBar()->showMessage(QString()); // what a menu's passing tip does
     EXPECT_EQ(status(), before);
+}
+
+// An empty home shows what to do first, and its button starts the company; the tabs follow.
+TEST_F(MainWindowTest, AFirstStartGuidesToTheFirstCompany) {
+    auto* forms = find<QStackedWidget>(QStringLiteral("stkForms"));
+    EXPECT_EQ(forms->currentWidget()->objectName(), QStringLiteral("frmFirstStart"));
+    EXPECT_FALSE(button(ControlAction::NewProgram)->isEnabled());
+    prompts.inputs.push_back(QStringLiteral("Northwind Tools"));
+    QTest::mouseClick(find<QPushButton>(QStringLiteral("cmdFirstCompany")), Qt::LeftButton);
+    EXPECT_EQ(forms->currentWidget(), tabs());
+    EXPECT_EQ(find<QComboBox>(QStringLiteral("cboCompanyName"))->currentText(),
+              QStringLiteral("Northwind Tools"));
+}
+
+// The keyboard: Ctrl+S saves the record the shown tab holds, a command's new text in a box is
+// undone by Ctrl+Z there, and a button that stands alone in a frame is reached by Tab.
+TEST_F(MainWindowTest, KeysSaveUndoAndReachEveryButton) {
+    newRecords(QStringLiteral("Acme"), QStringLiteral("Widget"));
+    typeInto(QStringLiteral("txtProgramVersion"), QStringLiteral("2.0"));
+    QTest::keySequence(window.get(), QKeySequence::Save);
+    EXPECT_FALSE(session->state().ProgramDirty);
+    EXPECT_EQ(store.programNames(1), QStringList{QStringLiteral("Widget")});
+    chooseTab(0);
+    typeInto(QStringLiteral("txtCity"), QStringLiteral("Springfield"));
+    QTest::keySequence(window.get(), QKeySequence::Save);
+    EXPECT_FALSE(session->state().CompanyDirty);
+
+    typeInto(QStringLiteral("txtAuthorFname"), QStringLiteral("Ada"));
+    typeInto(QStringLiteral("txtContactFname"), QStringLiteral("Bob"));
+    auto* contact = find<QLineEdit>(QStringLiteral("txtContactFname"));
+    QTest::mouseClick(find<QPushButton>(QStringLiteral("cmdSetContactAsAuthor")), Qt::LeftButton);
+    EXPECT_EQ(contact->text(), QStringLiteral("Ada")); // Same As Author copies as typed text
+    contact->setFocus();
+    QWidget* w = contact;
+    bool reached = false;
+    for (int i = 0; i < 6 && !reached; ++i) {
+        w = w->nextInFocusChain();
+        reached = w->objectName() == u"cmdSetContactAsAuthor";
+    }
+    EXPECT_TRUE(reached) << "Same As Author is not reached by Tab from the contact";
+
+    chooseTab(4);
+    auto* licence = find<QPlainTextEdit>(QStringLiteral("txtEULA"));
+    licence->setFocus();
+    QTest::keyClicks(licence, QStringLiteral("My own terms"));
+    prompts.yesNo = {true}; // the text typed is replaced
+    QTest::mouseClick(find<QPushButton>(QStringLiteral("cmdDefaultPermissions_1")), Qt::LeftButton);
+    EXPECT_NE(licence->toPlainText(), QStringLiteral("My own terms"));
+    licence->setFocus();
+    QTest::keySequence(licence, QKeySequence::Undo);
+    EXPECT_EQ(licence->toPlainText(), QStringLiteral("My own terms"));
+    EXPECT_EQ(session->screen().at(u"txtEULA").text, QStringLiteral("My own terms"));
 }
