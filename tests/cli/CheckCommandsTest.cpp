@@ -11,6 +11,7 @@
 
 using namespace brevaro;
 using namespace brevaro::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -44,10 +45,15 @@ TEST(CliCheck, CleanRecordsPassWithNotesOnly) {
     ASSERT_EQ(r.status, 0) << r.err.toStdString();
     const QStringList lines = QString::fromUtf8(r.out).split(u'\n', Qt::SkipEmptyParts);
     ASSERT_EQ(lines.size(), 1);
-    EXPECT_TRUE(lines[0].startsWith(QStringLiteral("note\tProgram_Categories\tPossible Categories "
-                                                   "(Program Info, Misc Info) \"Text Editors\": ")))
+    EXPECT_TRUE(lines[0].startsWith(u"note\tProgram_Categories\tPossible Categories "
+                                    "(Program Info, Misc Info) \"Text Editors\": "_s))
         << lines[0].toStdString();
     EXPECT_EQ(homeFiles(t), before) << "check writes nothing";
+    // A record that is not there, and bad usage.
+    EXPECT_EQ(run(t, "check", "-c", "2", "-p", "1").status, 2);
+    EXPECT_EQ(run(t, "check", "-c", "1", "-p", "Nothing").status, 2);
+    EXPECT_EQ(run(t, "check", "-c", "1").status, 1);
+    EXPECT_EQ(run(t, "check", "-c", "1", "-p", "1", "extra").status, 1);
 }
 
 TEST(CliCheck, ErrorsGiveStatusThreeAndOneLineEach) {
@@ -57,32 +63,24 @@ TEST(CliCheck, ErrorsGiveStatusThreeAndOneLineEach) {
     EXPECT_EQ(r.status, 3);
     const QStringList lines = QString::fromUtf8(r.out).split(u'\n', Qt::SkipEmptyParts);
     ASSERT_EQ(lines.size(), 2);
-    EXPECT_EQ(lines[0].section(u'\t', 0, 1), QStringLiteral("error\tCompany_Name"));
+    EXPECT_EQ(lines[0].section(u'\t', 0, 1), u"error\tCompany_Name"_s);
     EXPECT_TRUE(lines[0].section(u'\t', 2).startsWith(
-        QStringLiteral("Name (Company Info) \"Smith & Sons\": a bare \"&\"")))
+        u"Name (Company Info) \"Smith & Sons\": a bare \"&\""_s))
         << lines[0].toStdString();
     EXPECT_EQ(lines[0].count(u'\t'), 2);
-    EXPECT_TRUE(lines[1].startsWith(QStringLiteral("note\t")));
+    EXPECT_TRUE(lines[1].startsWith(u"note\t"_s));
 
     const CliResult json = run(t, "check", "-c", "1", "-p", "1", "--json");
     EXPECT_EQ(json.status, 3);
     const QJsonArray array = QJsonDocument::fromJson(json.out).array();
     ASSERT_EQ(array.size(), 2);
     const QJsonObject first = array[0].toObject();
-    EXPECT_EQ(first[QStringLiteral("severity")].toString(), QStringLiteral("error"));
-    EXPECT_EQ(first[QStringLiteral("element")].toString(), QStringLiteral("Company_Name"));
-    EXPECT_EQ(first[QStringLiteral("label")].toString(), QStringLiteral("Name"));
-    EXPECT_EQ(first[QStringLiteral("value")].toString(), QStringLiteral("Smith & Sons"));
-    EXPECT_TRUE(first[QStringLiteral("message")].toString().contains(QStringLiteral("&amp;")));
-}
-
-TEST(CliCheck, BadInputAndUsage) {
-    TempHome t;
-    storeClean(t);
-    EXPECT_EQ(run(t, "check", "-c", "2", "-p", "1").status, 2);
-    EXPECT_EQ(run(t, "check", "-c", "1", "-p", "Nothing").status, 2);
-    EXPECT_EQ(run(t, "check", "-c", "1").status, 1);
-    EXPECT_EQ(run(t, "check", "-c", "1", "-p", "1", "extra").status, 1);
+    for (const auto& [key, value] : {std::pair{"severity", "error"},
+                                     {"element", "Company_Name"},
+                                     {"label", "Name"},
+                                     {"value", "Smith & Sons"}})
+        EXPECT_EQ(first[QLatin1String(key)].toString(), QLatin1String(value)) << key;
+    EXPECT_TRUE(first[u"message"_s].toString().contains(u"&amp;"_s));
 }
 
 // pad --check writes nothing when the check finds errors, and otherwise the same bytes as pad.
@@ -95,14 +93,14 @@ TEST(CliCheck, PadWithCheckRefusesErrorsOnly) {
     EXPECT_EQ(checked.out, plain.out);
 
     storeClean(t, u"Smith & Sons");
-    const QString file = t.file(QStringLiteral("out.xml"));
+    const QString file = t.file(u"out.xml"_s);
     const CliResult refused = run(t, "pad", "-c", "1", "-p", "1", "-o", file, "--check");
     EXPECT_EQ(refused.status, 3);
-    EXPECT_TRUE(refused.err.startsWith(QStringLiteral("brevaro-cli: the PAD file was not written: "
-                                                      "1 error(s), the first in Company_Name")))
+    EXPECT_TRUE(refused.err.startsWith(u"brevaro-cli: the PAD file was not written: "
+                                       "1 error(s), the first in Company_Name"_s))
         << refused.err.toStdString();
     EXPECT_FALSE(QFileInfo::exists(file));
-    EXPECT_FALSE(QFileInfo::exists(t.file(QStringLiteral("out.htm"))));
+    EXPECT_FALSE(QFileInfo::exists(t.file(u"out.htm"_s)));
     EXPECT_EQ(run(t, "pad", "-c", "1", "-p", "1", "--check").out, QByteArray());
     EXPECT_EQ(run(t, "pad", "-c", "1", "-p", "1").status, 0);
 }

@@ -10,6 +10,7 @@
 
 using namespace brevaro;
 using namespace brevaro::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,10 +19,6 @@ void twoCompanies(const TempHome& t) {
     ASSERT_EQ(run(t, "new-company", "A").status, 0);
     ASSERT_EQ(run(t, "new-company", "B").status, 0);
     ASSERT_EQ(run(t, "new-program", "-c", "B", "P").status, 0);
-}
-
-QStringList dataFiles(const TempHome& t) {
-    return QDir(t.file(QStringLiteral("data"))).entryList(QDir::Files, QDir::Name);
 }
 
 } // namespace
@@ -35,25 +32,21 @@ TEST(CliHomeSafety, DamagedDeletionIntentIsRefused) {
         SCOPED_TRACE(intent);
         TempHome t;
         twoCompanies(t);
-        const QString victim =
-            QFileInfo(t.path() + QStringLiteral("/../../victim.txt")).absoluteFilePath();
+        const QString victim = QFileInfo(t.path() + u"/../../victim.txt"_s).absoluteFilePath();
         writeBytes(victim, "keep me");
         writeBytes(t.home().deletionIntentFile(), intent);
         const QByteArray company = readBytes(t.home().companyFile());
-        for (const char* command : {"list", "new-company"}) {
-            QStringList args{QString::fromLatin1(command)};
-            if (args[0] == QLatin1String("new-company"))
-                args << QStringLiteral("X");
+        for (const QStringList& args : {words({"list"}), words({"new-company", "X"})}) {
             const CliResult r = runCliIn(t, args);
             EXPECT_EQ(r.status, 2);
-            EXPECT_TRUE(r.err.startsWith(QStringLiteral("brevaro-cli: ")));
+            EXPECT_TRUE(r.err.startsWith(u"brevaro-cli: "_s));
             EXPECT_EQ(r.err.count(u'\n'), 1) << r.err.toStdString();
-            EXPECT_TRUE(r.err.contains(QStringLiteral("nothing was changed")));
+            EXPECT_TRUE(r.err.contains(u"nothing was changed"_s));
             EXPECT_TRUE(r.out.isEmpty());
         }
         EXPECT_EQ(readBytes(t.home().companyFile()), company);
-        EXPECT_EQ(dataFiles(t), (QStringList{QStringLiteral("2.dta"), QStringLiteral("company.dta"),
-                                             QStringLiteral("deletion.intent")}));
+        EXPECT_EQ(QDir(t.file(u"data"_s)).entryList(QDir::Files, QDir::Name),
+                  (QStringList{u"2.dta"_s, u"company.dta"_s, u"deletion.intent"_s}));
         EXPECT_EQ(readBytes(victim), QByteArray("keep me"));
         QFile::remove(victim);
     }
@@ -75,8 +68,7 @@ TEST(CliHomeSafety, ReaderWaitsForADeletionInProgress) {
     intent.moves = {{2, 1}};
     ASSERT_TRUE(store.runDeletionPhases(intent, 1)); // half done, as a writer at work
     QProcess reader;
-    reader.start(QStringLiteral(BREVARO_CLI),
-                 {QStringLiteral("--home"), t.path(), QStringLiteral("list")});
+    reader.start(QStringLiteral(BREVARO_CLI), {u"--home"_s, t.path(), u"list"_s});
     ASSERT_TRUE(reader.waitForStarted());
     QThread::msleep(300);
     EXPECT_EQ(reader.state(), QProcess::Running) << "the reader must wait";
@@ -94,14 +86,14 @@ TEST(CliHomeSafety, DamagedRecordFilesAreReported) {
     writeBytes(t.home().companyFile(), readBytes(t.home().companyFile()).left(100));
     const CliResult list = run(t, "list");
     EXPECT_EQ(list.status, 0);
-    EXPECT_TRUE(list.err.startsWith(QStringLiteral("brevaro-cli: warning: ")));
-    EXPECT_TRUE(list.err.contains(QStringLiteral("company.dta")));
+    EXPECT_TRUE(list.err.startsWith(u"brevaro-cli: warning: "_s));
+    EXPECT_TRUE(list.err.contains(u"company.dta"_s));
     const CliResult created = run(t, "new-company", "New");
     ASSERT_EQ(created.status, 0) << created.err.toStdString();
-    EXPECT_TRUE(created.err.contains(QStringLiteral("2.dta.orphaned")));
+    EXPECT_TRUE(created.err.contains(u"2.dta.orphaned"_s));
     const CliResult after = run(t, "list");
     EXPECT_EQ(after.out, QByteArray("1\tNew\n"));
-    EXPECT_TRUE(QFile::exists(t.file(QStringLiteral("data/2.dta.orphaned"))));
+    EXPECT_TRUE(QFile::exists(t.file(u"data/2.dta.orphaned"_s)));
 
     TempHome u;
     twoCompanies(u);
@@ -111,7 +103,7 @@ TEST(CliHomeSafety, DamagedRecordFilesAreReported) {
     huge.close();
     const CliResult set = run(u, "set", "-c", "B", "-p", "1", "ProgramVersion=2");
     EXPECT_EQ(set.status, 2);
-    EXPECT_TRUE(set.err.contains(QStringLiteral("far larger"))) << set.err.toStdString();
+    EXPECT_TRUE(set.err.contains(u"far larger"_s)) << set.err.toStdString();
     EXPECT_EQ(QFileInfo(u.home().programFile(2)).size(), qint64(4) * 1024 * 1024 * 1024);
 }
 
@@ -124,8 +116,8 @@ TEST(CliHomeSafety, ReadersWorkWhileTheWindowHoldsTheHome) {
     QString message;
     ASSERT_TRUE(window.acquire(&message));
     QTemporaryDir outside;
-    const QString padOutside = outside.filePath(QStringLiteral("p.xml"));
-    const QString padInside = t.file(QStringLiteral("pad/p.xml"));
+    const QString padOutside = outside.filePath(u"p.xml"_s);
+    const QString padInside = t.file(u"pad/p.xml"_s);
     for (const QStringList& reader :
          {words({"list"}), words({"show", "-c", "2", "-p", "1", "--json"}),
           words({"check", "-c", "2", "-p", "1"}), words({"webinfo", "-c", "2", "-p", "1"}),
@@ -142,7 +134,7 @@ TEST(CliHomeSafety, ReadersWorkWhileTheWindowHoldsTheHome) {
         SCOPED_TRACE(writer.join(u' ').toStdString());
         const CliResult r = runCliIn(t, writer);
         EXPECT_EQ(r.status, 2);
-        EXPECT_TRUE(r.err.contains(QStringLiteral("in use"))) << r.err.toStdString();
+        EXPECT_TRUE(r.err.contains(u"in use"_s)) << r.err.toStdString();
     }
     EXPECT_FALSE(QFile::exists(padInside));
 }

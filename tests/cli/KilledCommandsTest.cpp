@@ -19,6 +19,7 @@
 
 using namespace brevaro;
 using namespace brevaro::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,9 +30,9 @@ constexpr int kRuns = 40;
 using RecordFiles = QMap<QString, QByteArray>;
 
 RecordFiles recordFiles(const QString& home) {
-    static const QRegularExpression name(QStringLiteral("^(company|[1-9][0-9]*)\\.dta$"));
+    static const QRegularExpression name(u"^(company|[1-9][0-9]*)\\.dta$"_s);
     RecordFiles files;
-    const QDir data(home + QStringLiteral("/data"));
+    const QDir data(home + u"/data"_s);
     for (const QString& f : data.entryList(QDir::Files | QDir::Hidden))
         if (name.match(f).hasMatch())
             files[f] = readBytes(data.filePath(f));
@@ -68,9 +69,9 @@ void manyRecords(const TempHome& t) {
 // program stamped with its company's number.
 void expectWholeAndStamped(const QString& home) {
     const RecordStore store{AppHome(home)};
-    const QDir data(home + QStringLiteral("/data"));
+    const QDir data(home + u"/data"_s);
     const int companies = store.companyCount();
-    EXPECT_EQ(QFileInfo(data.filePath(QStringLiteral("company.dta"))).size() % 842, 0);
+    EXPECT_EQ(QFileInfo(data.filePath(u"company.dta"_s)).size() % 842, 0);
     for (const QString& f : data.entryList(QDir::Files | QDir::Hidden)) {
         if (f == QLatin1String("company.dta"))
             continue;
@@ -109,7 +110,7 @@ protected:
 
     static QProcess* start(const QString& home, const QStringList& args) {
         auto* p = new QProcess;
-        p->start(QStringLiteral(BREVARO_CLI), QStringList{QStringLiteral("--home"), home} + args);
+        p->start(QStringLiteral(BREVARO_CLI), QStringList{u"--home"_s, home} + args);
         EXPECT_TRUE(p->waitForStarted());
         return p;
     }
@@ -180,12 +181,12 @@ TEST_F(KilledCommands, DeleteOfACompanyWithPrograms) {
 
 TEST_F(KilledCommands, ImportOfACompanyAndItsProgram) {
     QTemporaryDir pads;
-    const QString pad = pads.filePath(QStringLiteral("fresh.xml"));
+    const QString pad = pads.filePath(u"fresh.xml"_s);
     writeBytes(pad, "<?xml version=\"1.0\"?>\r\n<XML_DIZ_INFO><Company_Info><Company_Name>Imported"
                     "</Company_Name><City_Town>Harbour</City_Town></Company_Info><Program_Info>"
                     "<Program_Name>Imported Notes</Program_Name><Program_Version>2.1"
                     "</Program_Version></Program_Info></XML_DIZ_INFO>\r\n");
-    killRuns(QStringList{QStringLiteral("import"), pad}, 15);
+    killRuns(QStringList{u"import"_s, pad}, 15);
 }
 
 // A reader started while a deletion runs, and the deletion killed at a random moment: the

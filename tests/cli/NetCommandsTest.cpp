@@ -5,6 +5,7 @@
 
 using namespace brevaro;
 using namespace brevaro::test;
+using namespace Qt::StringLiterals;
 
 TEST(CliNet, KeywordsFromAServerAndAFile) {
     LocalHttpServer server;
@@ -16,7 +17,7 @@ TEST(CliNet, KeywordsFromAServerAndAFile) {
     EXPECT_EQ(
         fetched.out,
         QByteArray("Tools\t003\t1\nbackup\t003\t1\nquick\t001\t0\nkeywords: Tools, backup\n"));
-    const QString page = t.file(QStringLiteral("page.html"));
+    const QString page = t.file(u"page.html"_s);
     writeBytes(page, "<p>caf\xE9 caf\xE9 caf\xE9 x");
     const CliResult fromFile = run(t, "keywords", "--file", page);
     EXPECT_EQ(fromFile.out, QByteArray("caf\xC3\xA9\t002\t0\nkeywords: \n"));
@@ -27,7 +28,7 @@ TEST(CliNet, KeywordsFromAServerAndAFile) {
 TEST(CliNet, EncipheredSitesRoundTrip) {
     TempHome t;
     const CliResult enciphered =
-        runCliIn(t, {QStringLiteral("encipher-sites")},
+        runCliIn(t, {u"encipher-sites"_s},
                  "Alpha Downloads|http://alpha.example/add\n\nBeta|http://b.example\n");
     ASSERT_EQ(enciphered.status, 0) << enciphered.err.toStdString();
     LocalHttpServer server;
@@ -39,5 +40,5 @@ TEST(CliNet, EncipheredSitesRoundTrip) {
     EXPECT_TRUE(lines[0].startsWith("1\tQuorin Shareware Download Directory\t"));
     EXPECT_EQ(lines[1], QByteArray("2\tAlpha Downloads\thttp://alpha.example/add"));
     EXPECT_EQ(lines[2], QByteArray("3\tBeta\thttp://b.example"));
-    EXPECT_EQ(runCliIn(t, {QStringLiteral("encipher-sites")}, "no separator here\n").status, 2);
+    EXPECT_EQ(runCliIn(t, {u"encipher-sites"_s}, "no separator here\n").status, 2);
 }

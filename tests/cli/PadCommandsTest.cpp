@@ -8,6 +8,7 @@
 
 using namespace brevaro;
 using namespace brevaro::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,14 +26,13 @@ TEST(CliPad, OutputsAreTheBytesTheWindowWrites) {
     storeFull(t);
     const CliResult pad = run(t, "pad", "-c", "CompanyName", "-p", "ProgramName");
     ASSERT_EQ(pad.status, 0) << pad.err.toStdString();
-    EXPECT_EQ(pad.out, toWin1252(QString(CreatePADText(fullCompany(), fullProgram()) +
-                                         QStringLiteral("\r\n"))));
+    EXPECT_EQ(pad.out, toWin1252(QString(CreatePADText(fullCompany(), fullProgram()) + u"\r\n"_s)));
 
-    const QString file = t.file(QStringLiteral("pad/Out.xml"));
+    const QString file = t.file(u"pad/Out.xml"_s);
     ASSERT_EQ(run(t, "pad", "-c", "1", "-p", "1", "-o", file).status, 0);
     EXPECT_EQ(readBytes(file), pad.out);
     const CliResult web = run(t, "webinfo", "-c", "1", "-p", "1");
-    EXPECT_EQ(readBytes(t.file(QStringLiteral("pad/out.htm"))), web.out);
+    EXPECT_EQ(readBytes(t.file(u"pad/out.htm"_s)), web.out);
     EXPECT_TRUE(web.out.startsWith("<!-- Created By Brevaro version: "));
 
     const CliResult verify = run(t, "verify", "-c", "1", "-p", "1");

@@ -4,6 +4,7 @@
 
 using namespace brevaro;
 using namespace brevaro::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -11,8 +12,8 @@ class ProgramTabTest : public SessionTest {
 protected:
     void SetUp() override {
         SessionTest::SetUp();
-        addCompany(QStringLiteral("Acme/../Tools"));
-        addProgram(QStringLiteral("Widget"));
+        addCompany(u"Acme/../Tools"_s);
+        addProgram(u"Widget"_s);
     }
     QString makeFile(const QString& name, qint64 size) {
         const QString path = home.file(name);
@@ -24,38 +25,38 @@ protected:
 } // namespace
 
 TEST_F(ProgramTabTest, FileInfoProposesNamesAndSizes) {
-    type(u"txtProgramVersion", QStringLiteral("1.25"));
+    type(u"txtProgramVersion", u"1.25"_s);
     command(ControlAction::SaveProgram);
-    prompts.files.push_back(makeFile(QStringLiteral("setup_widget.exe"), 2621440));
+    prompts.files.push_back(makeFile(u"setup_widget.exe"_s, 2621440));
     click(u"cmdOpenFileInfo");
-    EXPECT_EQ(text(u"txtVersionedFilename"), QStringLiteral("setup_12.exe"));
-    EXPECT_EQ(text(u"txtPreviousFilename"), QStringLiteral("setup_12.exe"));
-    EXPECT_EQ(text(u"txtGenericFilename"), QStringLiteral("setup_.exe"));
-    EXPECT_EQ(text(u"txtLongFilename"), QStringLiteral("setup_widget.exe"));
-    EXPECT_EQ(text(u"txtSizeByte"), QStringLiteral("2621440"));
-    EXPECT_EQ(text(u"txtSizeKB"), QStringLiteral("2560"));
-    EXPECT_EQ(text(u"txtSizeMB"), QStringLiteral("2.50"));
+    EXPECT_EQ(text(u"txtVersionedFilename"), u"setup_12.exe"_s);
+    EXPECT_EQ(text(u"txtPreviousFilename"), u"setup_12.exe"_s);
+    EXPECT_EQ(text(u"txtGenericFilename"), u"setup_.exe"_s);
+    EXPECT_EQ(text(u"txtLongFilename"), u"setup_widget.exe"_s);
+    EXPECT_EQ(text(u"txtSizeByte"), u"2621440"_s);
+    EXPECT_EQ(text(u"txtSizeKB"), u"2560"_s);
+    EXPECT_EQ(text(u"txtSizeMB"), u"2.50"_s);
     EXPECT_TRUE(session->state().ProgramDirty);
     // The dialog starts in the company's own folder under pad, made safe as one level.
     ASSERT_EQ(prompts.dialogs.size(), 1);
-    EXPECT_EQ(prompts.dialogs[0].initialFolder, home.file(QStringLiteral("pad/Acme_.._Tools")));
-    EXPECT_TRUE(QFileInfo(home.file(QStringLiteral("pad/Acme_.._Tools"))).isDir());
+    EXPECT_EQ(prompts.dialogs[0].initialFolder, home.file(u"pad/Acme_.._Tools"_s));
+    EXPECT_TRUE(QFileInfo(home.file(u"pad/Acme_.._Tools"_s)).isDir());
 
-    type(u"txtProgramVersion", QStringLiteral("7"));
-    prompts.files.push_back(makeFile(QStringLiteral("noextension"), 1536));
+    type(u"txtProgramVersion", u"7"_s);
+    prompts.files.push_back(makeFile(u"noextension"_s, 1536));
     click(u"cmdOpenFileInfo");
-    EXPECT_EQ(text(u"txtVersionedFilename"), QStringLiteral("7.noextensio")); // cut at 12
-    EXPECT_EQ(text(u"txtGenericFilename"), QStringLiteral(".noextensi"));
-    EXPECT_EQ(text(u"txtSizeKB"), QStringLiteral("2"));
-    EXPECT_EQ(text(u"txtSizeMB"), QStringLiteral("0.00"));
+    EXPECT_EQ(text(u"txtVersionedFilename"), u"7.noextensio"_s); // cut at 12
+    EXPECT_EQ(text(u"txtGenericFilename"), u".noextensi"_s);
+    EXPECT_EQ(text(u"txtSizeKB"), u"2"_s);
+    EXPECT_EQ(text(u"txtSizeMB"), u"0.00"_s);
 
-    prompts.files.push_back(makeFile(QStringLiteral("a.zip"), 131072)); // 0.125 MB
+    prompts.files.push_back(makeFile(u"a.zip"_s, 131072)); // 0.125 MB
     click(u"cmdOpenFileInfo");
-    EXPECT_EQ(text(u"txtSizeMB"), QStringLiteral("0.13"));
+    EXPECT_EQ(text(u"txtSizeMB"), u"0.13"_s);
 
     prompts.files.push_back(std::nullopt);
     click(u"cmdOpenFileInfo");
-    EXPECT_EQ(text(u"txtSizeByte"), QStringLiteral("131072"));
+    EXPECT_EQ(text(u"txtSizeByte"), u"131072"_s);
 }
 
 TEST_F(ProgramTabTest, ExpiryControlsFollowTheChoice) {
@@ -92,57 +93,55 @@ TEST_F(ProgramTabTest, DefaultPermissionTexts) {
     command(ControlAction::SaveProgram);
     click(u"cmdDefaultPermissions", 0);
     EXPECT_EQ(text(u"txtDistributionAgreements"),
-              QStringLiteral("You may include WIDGET on any CD compilation.\r\n"
-                             "You may not sell WIDGET, it is FREEWARE!\r\n"));
+              u"You may include WIDGET on any CD compilation.\r\n"
+              "You may not sell WIDGET, it is FREEWARE!\r\n"_s);
     EXPECT_TRUE(prompts.asked.size() == 2);
 
     screen().setListIndex(id(u"cboType"), 1); // Shareware
     command(ControlAction::SaveProgram);
     prompts.yesNo = {false};
     click(u"cmdDefaultPermissions", 0);
-    EXPECT_TRUE(prompts.asked.back().startsWith(
-        QStringLiteral("Set Default Text|Your current text will be lost!")));
-    EXPECT_TRUE(text(u"txtDistributionAgreements").contains(QStringLiteral("FREEWARE")));
+    EXPECT_TRUE(
+        prompts.asked.back().startsWith(u"Set Default Text|Your current text will be lost!"_s));
+    EXPECT_TRUE(text(u"txtDistributionAgreements").contains(u"FREEWARE"_s));
     prompts.yesNo = {true};
     click(u"cmdDefaultPermissions", 0);
     EXPECT_EQ(text(u"txtDistributionAgreements"),
-              QStringLiteral(
-                  "You may include WIDGET on any CD compilation.\r\n"
-                  "You may not sell the evalution copy.\r\n"
-                  "You must disclose that WIDGET is SHAREWARE and the product is not free.\r\n"));
+              u"You may include WIDGET on any CD compilation.\r\n"
+              "You may not sell the evalution copy.\r\n"
+              "You must disclose that WIDGET is SHAREWARE and the product is not free.\r\n"_s);
 
     click(u"cmdDefaultPermissions", 1);
-    const QStringList lines = text(u"txtEULA").split(QStringLiteral("\r\n"));
-    EXPECT_EQ(lines[0], QStringLiteral("WIDGET SOFTWARE LICENSE:"));
-    EXPECT_EQ(lines[2], QStringLiteral("1) GRANT OF LICENSE:"));
-    EXPECT_TRUE(lines[3].startsWith(QStringLiteral("ACME/../TOOLS grants you a single")));
-    EXPECT_TRUE(lines[9].startsWith(QStringLiteral(
-        "While we have attempted to ensure the reliability of the WIDGET, ACME/../TOOLS cannot")));
-    EXPECT_TRUE(lines[12].endsWith(QStringLiteral("may not apply to you.")));
+    const QStringList lines = text(u"txtEULA").split(u"\r\n"_s);
+    EXPECT_EQ(lines[0], u"WIDGET SOFTWARE LICENSE:"_s);
+    EXPECT_TRUE(lines[3].startsWith(u"ACME/../TOOLS grants you a single"_s));
+    EXPECT_TRUE(lines[9].startsWith(
+        u"While we have attempted to ensure the reliability of the WIDGET, ACME/../TOOLS cannot"_s));
+    EXPECT_TRUE(lines[12].endsWith(u"may not apply to you."_s));
     EXPECT_EQ(lines.size(), 14); // the text ends with CR LF
 }
 
 TEST_F(ProgramTabTest, PermissionTextsThroughFiles) {
-    const QString in = home.file(QStringLiteral("in.txt"));
+    const QString in = home.file(u"in.txt"_s);
     writeBytes(in, "first\r\nsecond\nthird\rcaf\xE9");
     prompts.files.push_back(in);
     click(u"cmdPermission", 2);
-    EXPECT_EQ(text(u"txtEULA"), QStringLiteral("first\r\nsecond\r\nthird\r\ncaf\u00e9\r\n"));
-    const QString out = home.file(QStringLiteral("out.txt"));
+    EXPECT_EQ(text(u"txtEULA"), u"first\r\nsecond\r\nthird\r\ncaf\u00e9\r\n"_s);
+    const QString out = home.file(u"out.txt"_s);
     prompts.files.push_back(out);
     click(u"cmdPermission", 3);
     EXPECT_EQ(readBytes(out), QByteArray("first\r\nsecond\r\nthird\r\ncaf\xE9\r\n\r\n"));
 
     // Blank text: no dialog at all; a cancelled open changes nothing.
-    type(u"txtDistributionAgreements", QStringLiteral("   "));
+    type(u"txtDistributionAgreements", u"   "_s);
     click(u"cmdPermission", 1);
     prompts.files.push_back(std::nullopt);
     click(u"cmdPermission", 0);
-    EXPECT_EQ(text(u"txtDistributionAgreements"), QStringLiteral("   "));
+    EXPECT_EQ(text(u"txtDistributionAgreements"), u"   "_s);
     EXPECT_EQ(prompts.dialogs.size(), 3);
     writeBytes(out, "abc");
-    EXPECT_EQ(readTextLines(out), QStringLiteral("abc\r\n"));
-    writeTextWithLineEnd(out, QStringLiteral("abc"));
+    EXPECT_EQ(readTextLines(out), u"abc\r\n"_s);
+    writeTextWithLineEnd(out, u"abc"_s);
     EXPECT_EQ(readBytes(out).size(), 5);
 }
 
@@ -155,7 +154,7 @@ TEST_F(ProgramTabTest, TransferKeepsUnlistedFlagsAndTrims) {
     restart();
     screen().setItemSelected(id(u"lstSupportedOS"), 1, true);
     screen().setItemSelected(id(u"lstSupportedOS"), 10, true);
-    type(u"txtAddress1", QStringLiteral("  two blanks  "));
+    type(u"txtAddress1", u"  two blanks  "_s);
     prompts.yesNo = {true}; // saving the company offers to save the program first
     command(ControlAction::SaveCompany);
     ProgramRecord p;
@@ -163,9 +162,9 @@ TEST_F(ProgramTabTest, TransferKeepsUnlistedFlagsAndTrims) {
     for (int i = 0; i < 26; ++i)
         EXPECT_EQ(p.number(ProgramField::OSSupported, i), i == 1 || i == 10 ? -1 : 0) << i;
     EXPECT_EQ(p.number(ProgramField::OSSupported, 26), -1);
-    EXPECT_EQ(text(u"txtAddress1"), QStringLiteral("two blanks"));
+    EXPECT_EQ(text(u"txtAddress1"), u"two blanks"_s);
     CompanyRecord c;
     store.readCompany(1, c);
-    EXPECT_EQ(c.rawText(CompanyField::Address1).left(14), QStringLiteral("  two blanks  "));
+    EXPECT_EQ(c.rawText(CompanyField::Address1).left(14), u"  two blanks  "_s);
     EXPECT_EQ(p.number(ProgramField::DescriptionActive, 0), 1);
 }

@@ -2,6 +2,7 @@
 
 using namespace brevaro;
 using namespace brevaro::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -9,9 +10,9 @@ class PadCheckCommandsTest : public SessionTest {
 protected:
     void SetUp() override {
         SessionTest::SetUp();
-        addCompany(QStringLiteral("Acme"));
+        addCompany(u"Acme"_s);
         screen().setListIndex(id(u"SSTab1"), 1);
-        addProgram(QStringLiteral("Rocket"));
+        addProgram(u"Rocket"_s);
     }
     const PadFinding* findingFor(const std::vector<PadFinding>& all, const char* element) {
         for (const PadFinding& f : all)
@@ -26,7 +27,7 @@ protected:
 // The check sees what the screen shows, before it is saved, and leaves the records alone.
 TEST_F(PadCheckCommandsTest, ChecksTheScreenNotTheStoredRecords) {
     screen().setListIndex(id(u"SSTab1"), 0);
-    type(u"txtCity", QStringLiteral("Smith & Sons"));
+    type(u"txtCity", u"Smith & Sons"_s);
     const auto findings = session->pad().checkScreen();
     const PadFinding* city = findingFor(findings, "City_Town");
     ASSERT_TRUE(city);
@@ -40,7 +41,7 @@ TEST_F(PadCheckCommandsTest, ChecksTheScreenNotTheStoredRecords) {
 TEST_F(PadCheckCommandsTest, AFindingLeadsToItsField) {
     screen().setListIndex(id(u"SSTab1"), 2);
     screen().setValue(id(u"chkActivateLanguage", 3), 1);
-    type(u"txt45char", QStringLiteral("a <b> tag"), 3);
+    type(u"txt45char", u"a <b> tag"_s, 3);
     screen().setListIndex(id(u"SSTab2"), 0);
     command(ControlAction::SaveProgram);
     screen().setListIndex(id(u"SSTab1"), 0);
@@ -58,7 +59,7 @@ TEST_F(PadCheckCommandsTest, AFindingLeadsToItsField) {
     EXPECT_FALSE(session->pad().goToField(whole));
 
     screen().setListIndex(id(u"SSTab1"), 0);
-    prompts.inputs.push_back(QStringLiteral("Unsaved Co"));
+    prompts.inputs.push_back(u"Unsaved Co"_s);
     command(ControlAction::NewCompany);
     PadFinding version;
     version.side = RecordSide::Program;
@@ -69,17 +70,17 @@ TEST_F(PadCheckCommandsTest, AFindingLeadsToItsField) {
 
 // Create PAD writes what the author asked for and says afterwards that sites will reject it.
 TEST_F(PadCheckCommandsTest, CreatePadWritesThenTellsOfErrors) {
-    type(u"txtProgramVersion", QStringLiteral("1 < 2"));
+    type(u"txtProgramVersion", u"1 < 2"_s);
     command(ControlAction::SaveProgram);
-    const QString path = home.file(QStringLiteral("rocket.xml"));
+    const QString path = home.file(u"rocket.xml"_s);
     prompts.files.push_back(path);
     command(ControlAction::CreatePAD);
     EXPECT_TRUE(readBytes(path).contains("<Program_Version>1 < 2</Program_Version>"));
-    EXPECT_TRUE(status().contains(QStringLiteral("Check PAD"))) << status().toStdString();
+    EXPECT_TRUE(status().contains(u"Check PAD"_s)) << status().toStdString();
 
-    type(u"txtProgramVersion", QStringLiteral("1.2"));
+    type(u"txtProgramVersion", u"1.2"_s);
     command(ControlAction::SaveProgram);
     prompts.files.push_back(path);
     command(ControlAction::CreatePAD);
-    EXPECT_FALSE(status().contains(QStringLiteral("Check PAD")));
+    EXPECT_FALSE(status().contains(u"Check PAD"_s));
 }
