@@ -25,12 +25,11 @@ void LinkLabelWidget::setHovered(bool hovered) {
     f.setUnderline(hovered);
     setFont(f);
     QPalette p = palette();
-    // Dark blue under the mouse; otherwise the desktop's own text colour, so the label reads
-    // well in light and dark palettes.
-    p.setColor(QPalette::WindowText, hovered ? QColor(0x00, 0x00, 0xC0)
-                                     : parentWidget()
-                                         ? parentWidget()->palette().color(QPalette::ButtonText)
-                                         : QPalette().color(QPalette::ButtonText));
+    // The palette's link colour under the mouse, otherwise its text colour: both come from
+    // the desktop, so the label reads well in light and dark palettes.
+    const QPalette& desktop = parentWidget() ? parentWidget()->palette() : QPalette();
+    p.setColor(QPalette::WindowText,
+               desktop.color(hovered ? QPalette::Link : QPalette::ButtonText));
     setPalette(p);
 }
 

@@ -5,7 +5,7 @@
 namespace brevaro {
 
 // A label that opens a page when clicked and looks like a link while the mouse is over it:
-// dark blue and underlined, returning to the normal text colour when the mouse leaves.
+// the palette's link colour and underlined, back to the text colour when the mouse leaves.
 class LinkLabelWidget : public QLabel {
     Q_OBJECT
 public:
