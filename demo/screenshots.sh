@@ -4,6 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 out=${1:-docs/screenshots}
+size=("${@:2:2}") # optional WIDTH HEIGHT of the main window
 tmp=$(mktemp -d)
 trap 'rm -rf "$tmp"' EXIT
 cli() { build/bin/brevaro-cli --home "$tmp/home" "$@" >/dev/null; }
@@ -20,7 +21,7 @@ cli set -c 1 -p 1 ProgramVersion=2.4.1 ReleaseMonth=11 ReleaseDay=02 ReleaseYear
     InstallSupport="Install and Uninstall" SpecificCategory="Productivity" \
     ChangeInfo="Notes sync between machines; faster search." \
     SystemRequirements="Any desktop with 2 GB of memory" \
-    FilenameVersioned=hnotes241.zip FilenamePrevious=hnotes240.zip FilenameGeneric=hnotes.zip \
+    FilenameVersioned=hnote241.zip FilenamePrevious=hnote240.zip FilenameGeneric=hnotes.zip \
     FilenameLong="harbour-notes-2.4.1.zip" \
     "DescriptionActive[0]=1" "Keywords[0]=notes,outliner,journal,sync" \
     "CharDesc45[0]=Notes that follow you from port to port" \
@@ -40,5 +41,5 @@ server=$!
 trap 'kill $server 2>/dev/null; rm -rf "$tmp"' EXIT
 sleep 1
 # The window is drawn by a real X server so that fonts and themes are those of a desktop.
-QTWEBENGINE_CHROMIUM_FLAGS=--disable-gpu BREVARO_SERVER="http://127.0.0.1:$port" xvfb-run -a build/bin/brevaro-screenshots "$out" "$tmp/harbour.xml"
+QTWEBENGINE_CHROMIUM_FLAGS=--disable-gpu BREVARO_SERVER="http://127.0.0.1:$port" xvfb-run -a build/bin/brevaro-screenshots "$out" "$tmp/harbour.xml" "${size[@]}"
 ls "$out"

@@ -106,9 +106,11 @@ void SubmissionBrowser::buildControls() {
     m_loadLimit->setSingleShot(true);
     m_loadLimit->setInterval(kPageLoadLimitMs);
     connect(m_loadLimit, &QTimer::timeout, this, [this] {
-        loadFailed(QStringLiteral("The page did not finish loading within %1 seconds: check the "
-                                  "address, or press Refresh to try again.")
-                       .arg(kPageLoadLimitMs / 1000));
+        const int seconds = (m_loadLimit->interval() + 999) / 1000;
+        loadFailed(QStringLiteral("The page did not finish loading within %1 second%2: check "
+                                  "the address, or press Refresh to try again.")
+                       .arg(seconds)
+                       .arg(seconds == 1 ? QString() : QStringLiteral("s")));
     });
     connect(m_profile, &QWebEngineProfile::downloadRequested, this,
             [this](QWebEngineDownloadRequest* download) {
@@ -396,6 +398,10 @@ void SubmissionBrowser::navigate() {
             Qt::UniqueConnection);
     m_iex->load(QUrl::fromUserInput(m_session.txtURL));
     m_loadLimit->start();
+}
+
+void SubmissionBrowser::setPageLoadLimit(int milliseconds) {
+    m_loadLimit->setInterval(milliseconds);
 }
 
 void SubmissionBrowser::loadFailed(const QString& why) {

@@ -34,6 +34,8 @@ public:
     SubmissionSession& session() { return m_session; }
     const SiteList& siteList() const { return m_sites; }
     QWebEngineView* iex() const { return m_iex; }
+    // How long a page may take to load before it is stopped (30 seconds unless set).
+    void setPageLoadLimit(int milliseconds);
     // Runs after each download of the site list (the main window's banner data refresh).
     void setAfterSiteListDownload(std::function<void()> hook) {
         m_sites.afterDownload = std::move(hook);

@@ -32,6 +32,7 @@ BannerStripWidget::BannerStripWidget(ControlBindingView& view, BannerRotation& r
         logo->setIconSize(QSize(120, 48));
         logo->setCursor(Qt::PointingHandCursor);
         row->addWidget(logo);
+        m_logos << logo;
     }
     setMinimumHeight(64);
     connect(&rotation, &BannerRotation::changed, this, &BannerStripWidget::showRotation);
@@ -40,10 +41,9 @@ BannerStripWidget::BannerStripWidget(ControlBindingView& view, BannerRotation& r
 
 void BannerStripWidget::showRotation() {
     const bool visible = m_rotation.imageVisible && !m_rotation.imagePath.isEmpty();
-    m_next->setVisible(m_rotation.nextButtonVisible);
     m_next->setToolTip(m_rotation.nextButtonToolTip);
-    m_banner->setVisible(visible);
     m_banner->setToolTip(m_rotation.toolTip);
+    fitToWidth();
     if (!visible || m_rotation.imagePath == m_shown)
         return;
     m_shown = m_rotation.imagePath;
@@ -52,6 +52,34 @@ void BannerStripWidget::showRotation() {
     m_movie = new QMovie(m_shown, QByteArray(), this);
     m_banner->setMovie(m_movie);
     m_movie->start();
+}
+
+QSize BannerStripWidget::minimumSizeHint() const {
+    return {0, minimumHeight()};
+}
+
+void BannerStripWidget::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    fitToWidth();
+}
+
+void BannerStripWidget::fitToWidth() {
+    const QMargins margins = layout()->contentsMargins();
+    const int spacing = layout()->spacing();
+    int room = width() - margins.left() - margins.right();
+    auto fits = [&room, spacing](int wanted) {
+        if (wanted > room)
+            return false;
+        room -= wanted + spacing;
+        return true;
+    };
+    const bool banner = m_rotation.imageVisible && !m_rotation.imagePath.isEmpty();
+    const int next = m_rotation.nextButtonVisible ? m_next->sizeHint().width() + spacing : 0;
+    const bool bannerFits = fits(next + (banner ? m_banner->width() : 0));
+    m_next->setVisible(m_rotation.nextButtonVisible && bannerFits);
+    m_banner->setVisible(banner && bannerFits);
+    for (QWidget* logo : m_logos)
+        logo->setVisible(fits(logo->sizeHint().width()));
 }
 
 } // namespace brevaro

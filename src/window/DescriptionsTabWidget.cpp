@@ -2,6 +2,7 @@
 
 #include "session/EditingSession.h"
 #include "window/ControlBindingView.h"
+#include "window/TabRowsWidget.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -50,6 +51,8 @@ DescriptionsTabWidget::DescriptionsTabWidget(ControlBindingView& view, QWidget* 
     outer->addWidget(box);
     auto* inside = new QVBoxLayout(box);
     m_languages = qobject_cast<QTabWidget*>(control(u"SSTab2"));
+    inside->setSpacing(0);
+    inside->addWidget(new TabRowsWidget(*m_languages));
     inside->addWidget(m_languages);
     for (int language = 0; language < 9; ++language)
         buildPage(language);

@@ -20,6 +20,7 @@
 #include "window/PermissionsTabWidget.h"
 #include "window/ProgramTabWidget.h"
 #include "window/SubmissionPluginLoader.h"
+#include "window/TabRowsWidget.h"
 #include "window/WebInfoTabWidget.h"
 
 #include <QAction>
@@ -136,7 +137,14 @@ QWidget* MainWindow::buildTabs() {
         scroll->setWidget(pages[i]);
         tabs->addTab(scroll, mainTabCaptions().value(i));
     }
-    return tabs;
+    // The tabs and, when the window is too narrow for one row of them, their rows.
+    auto* area = new QWidget;
+    auto* column = new QVBoxLayout(area);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(new TabRowsWidget(*tabs));
+    column->addWidget(tabs, 1);
+    return area;
 }
 
 QWidget* MainWindow::buildCopyright() {

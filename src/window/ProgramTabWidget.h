@@ -2,14 +2,31 @@
 
 #include "window/FormPageWidget.h"
 
+#include <QList>
+
+class QGridLayout;
+
 namespace brevaro {
 
 // "Program Info": the program frame, the distribution file, the expiry and the
-// miscellaneous information, one below the other.
+// miscellaneous information. One below the other in a narrow window; in a wide one the program
+// frame stands beside the other three, so that the whole tab fits without scrolling.
 class ProgramTabWidget : public FormPageWidget {
     Q_OBJECT
 public:
     explicit ProgramTabWidget(ControlBindingView& view, QWidget* parent = nullptr);
+
+    bool inTwoColumns() const { return m_twoColumns; }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void arrange(bool twoColumns);
+
+    QGridLayout* m_grid;
+    QList<QWidget*> m_frames;
+    bool m_twoColumns = true;
 };
 
 } // namespace brevaro

@@ -229,19 +229,34 @@ TEST_F(SubmissionBrowserTest, InfoListLabelAndCopyButtonsDriveTheModel) {
     EXPECT_EQ(m_prompts.opened, QStringList{u"http://acme.example/widget.xml"_s});
 }
 
-// An address that is a file to download fills nothing, says so, and leaves the window usable.
-TEST_F(SubmissionBrowserTest, AFileToDownloadIsNotAPageToFill) {
-    m_server.route("/unsignedpadfile.php", {200, "application/octet-stream", "<?php ?>", {}});
-    SubmissionBrowser browser(m_company, m_program, m_home.path(), m_prompts);
-    browser.show();
-    auto* status = browser.findChild<QStatusBar*>(u"StatusBar1"_s);
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return status->currentMessage().contains(u"file to download"_s); }, kPageTimeout))
-        << status->currentMessage().toStdString();
-    EXPECT_TRUE(browser.findChild<QTreeWidget*>(u"lstInfo"_s)->isEnabled());
-    for (QPushButton* button : browser.findChildren<QPushButton*>()) {
-        if (button->text().remove(u'&') == u"Refresh"_s) {
-            EXPECT_TRUE(button->isEnabled());
+// An address that is a file to download, or a server that never answers, fills nothing, says
+// so, and leaves the window usable.
+TEST_F(SubmissionBrowserTest, APageThatCannotBeFilledLeavesTheWindowUsable) {
+    struct Case {
+        LocalHttpServer::Response response;
+        int limitMs;
+        QString said;
+    };
+    LocalHttpServer::Response stalled;
+    stalled.stall = true;
+    const Case cases[] = {
+        {{200, "application/octet-stream", "<?php ?>", {}}, 30000, u"file to download"_s},
+        {stalled, 3000, u"did not finish loading within 3 seconds:"_s}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.said.toStdString());
+        m_server.route("/unsignedpadfile.php", c.response);
+        SubmissionBrowser browser(m_company, m_program, m_home.path(), m_prompts);
+        browser.setPageLoadLimit(c.limitMs);
+        browser.show();
+        auto* status = browser.findChild<QStatusBar*>(u"StatusBar1"_s);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return status->currentMessage().contains(c.said); },
+                                    kPageTimeout))
+            << status->currentMessage().toStdString();
+        EXPECT_TRUE(browser.findChild<QTreeWidget*>(u"lstInfo"_s)->isEnabled());
+        for (QPushButton* button : browser.findChildren<QPushButton*>()) {
+            if (button->text().remove(u'&') == u"Refresh"_s) {
+                EXPECT_TRUE(button->isEnabled());
+            }
         }
     }
 }
