@@ -33,8 +33,9 @@ std::vector<PadFinding> checkPad(const CompanyRecord& company, const ProgramReco
 QString severityName(PadFinding::Severity severity);
 bool hasErrors(const std::vector<PadFinding>& findings);
 
-// The problems that keep a written value from being well-formed XML text, one finding per
-// kind (bare "&", unknown reference, "<", ">", a control character), in the order met.
+// What a written value still shows wrongly once escaped, one finding per kind in the order met:
+// a reference XML does not know and a tag (warnings: both show as typed), a control character
+// (an error: XML has no way to hold it).
 std::vector<PadFinding> xmlTextProblems(const PadWrittenValue& value);
 // The text an XML parser reads from a written value: references replaced by their
 // characters, line breaks as LF.

@@ -3,6 +3,7 @@
 #include "AppVersion.h"
 #include "pad/PadImportTarget.h"
 #include "pad/PadText.h"
+#include "pad/PadXmlText.h"
 #include "platform/Prompts.h"
 #include "platform/StringHelpers.h"
 #include "platform/TextFiles.h"
@@ -176,9 +177,9 @@ bool ReadPADFile(PadImportTarget& target, Prompts& prompts, const QString& text)
         else if (tag == u"<Program_Name>" && !value.isEmpty())
             programNamed = true;
         else if (tag == u"<Author_First_Name>")
-            first = value.toString();
+            first = decodedXmlText(value);
         else if (tag == u"<Author_Last_Name>")
-            last = value.toString();
+            last = decodedXmlText(value);
     });
     if (!companyNamed) {
         const QString author = trimBlanks(QString(first + u' ' + last));
@@ -198,7 +199,7 @@ bool ReadPADFile(PadImportTarget& target, Prompts& prompts, const QString& text)
             target.importProgram(QStringLiteral("Unnamed program"));
             programMade = true;
         }
-        dispatch(target, *found, value.toString(), language);
+        dispatch(target, *found, decodedXmlText(value), language);
     });
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include "AppVersion.h"
 #include "pad/PadLayout.h"
+#include "pad/PadXmlText.h"
 #include "platform/StringHelpers.h"
 #include "platform/WebAddresses.h"
 #include "records/ValueLists.h"
@@ -31,7 +32,8 @@ public:
     // Full form always, as the association blocks and Y/N flags are written.
     void full(int blanks, const char* element, const QString& v) {
         const QString name = QLatin1String(element);
-        line(blanks, u'<' + name + u'>' + v + QStringLiteral("</") + name + u'>');
+        line(blanks,
+             u'<' + name + u'>' + wellFormedXmlText(v) + QStringLiteral("</") + name + u'>');
     }
     void yesNo(int blanks, const char* element, bool set) {
         full(blanks, element, set ? QStringLiteral("Y") : QStringLiteral("N"));

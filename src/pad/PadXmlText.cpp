@@ -1,3 +1,4 @@
+#include "pad/PadXmlText.h"
 #include "pad/PadCheck.h"
 
 #include <QRegularExpression>
@@ -19,7 +20,7 @@ struct Reference {
     QString name;
 };
 
-Reference referenceAt(const QString& s, qsizetype at) {
+Reference referenceAt(QStringView s, qsizetype at) {
     static const QRegularExpression ref(
         QStringLiteral("&(#[0-9]+|#x[0-9A-Fa-f]+|[A-Za-z_:][A-Za-z0-9_:.-]*);"));
     const auto m = ref.match(s, at, QRegularExpression::NormalMatch,
@@ -50,16 +51,25 @@ bool illegalControl(QChar ch) {
     return (u < 0x20 && u != 0x9 && u != 0xA && u != 0xD) || u == 0xFFFE || u == 0xFFFF;
 }
 
-// The text with every bare "&", every "<" and every ">" escaped; references kept.
-QString escapedText(const QString& s) {
+bool knownReferenceAt(QStringView s, qsizetype at) {
+    const Reference r = referenceAt(s, at);
+    return r.length > 0 && r.character != 0;
+}
+
+} // namespace
+
+QString wellFormedXmlText(const QString& value) {
+    if (!value.contains(u'&') && !value.contains(u'<') && !value.contains(u"]]>"))
+        return value;
     QString out;
-    for (qsizetype i = 0; i < s.size(); ++i) {
-        const QChar ch = s[i];
-        if (ch == u'&' && referenceAt(s, i).length == 0)
+    out.reserve(value.size() + 16);
+    for (qsizetype i = 0; i < value.size(); ++i) {
+        const QChar ch = value[i];
+        if (ch == u'&' && !knownReferenceAt(value, i))
             out += QStringLiteral("&amp;");
         else if (ch == u'<')
             out += QStringLiteral("&lt;");
-        else if (ch == u'>')
+        else if (ch == u'>' && i >= 2 && value[i - 1] == u']' && value[i - 2] == u']')
             out += QStringLiteral("&gt;");
         else
             out += ch;
@@ -67,10 +77,24 @@ QString escapedText(const QString& s) {
     return out;
 }
 
-// Every kind of problem once, with the first place it occurs and how often it does.
-enum Kind { BareAmp, UnknownRef, Less, Greater, Control, KindCount };
-
-} // namespace
+QString decodedXmlText(QStringView value) {
+    if (!value.contains(u'&'))
+        return value.toString();
+    QString out;
+    out.reserve(value.size());
+    for (qsizetype i = 0; i < value.size(); ++i) {
+        if (value[i] == u'&') {
+            const Reference r = referenceAt(value, i);
+            if (r.length > 0 && r.character != 0) {
+                out += QString::fromUcs4(&r.character, 1);
+                i += r.length - 1;
+                continue;
+            }
+        }
+        out += value[i];
+    }
+    return out;
+}
 
 QString excerpt(const QString& value, qsizetype at) {
     constexpr qsizetype kMax = 60;
@@ -112,11 +136,14 @@ QString xmlParsedText(const QString& written) {
 }
 
 std::vector<PadFinding> xmlTextProblems(const PadWrittenValue& v) {
-    qsizetype first[KindCount];
+    // A bare "&", a "<" and "]]>" are escaped as they are written. What remains: a reference
+    // XML does not know is written as text (so it shows as typed, not as its character), a tag
+    // shows as text, and a control character cannot be written at all.
+    enum Kind { UnknownRef, Tag, Control, KindCount };
+    qsizetype first[KindCount] = {};
     int count[KindCount] = {};
-    QString unknownName;
+    QString unknownName, firstTag;
     QChar control;
-    QString firstTag;
     const QString& s = v.value;
     static const QRegularExpression tag(QStringLiteral("</?[A-Za-z][^<>&]*>"));
     for (qsizetype i = 0; i < s.size(); ++i) {
@@ -124,9 +151,7 @@ std::vector<PadFinding> xmlTextProblems(const PadWrittenValue& v) {
         const QChar ch = s[i];
         if (ch == u'&') {
             const Reference r = referenceAt(s, i);
-            if (r.length == 0) {
-                kind = BareAmp;
-            } else {
+            if (r.length > 0) {
                 if (r.character == 0) {
                     kind = UnknownRef;
                     if (unknownName.isEmpty())
@@ -135,18 +160,15 @@ std::vector<PadFinding> xmlTextProblems(const PadWrittenValue& v) {
                 i += r.length - 1;
             }
         } else if (ch == u'<') {
-            kind = Less;
-            // A whole tag counts once: its ">" is not reported again.
+            // A whole tag counts once: its ">" is not looked at again.
             const auto m = tag.match(s, i, QRegularExpression::NormalMatch,
                                      QRegularExpression::AnchorAtOffsetMatchOption);
             if (m.hasMatch()) {
-                if (count[Less] == 0)
+                kind = Tag;
+                if (firstTag.isEmpty())
                     firstTag = m.captured(0);
                 i += m.capturedLength() - 1;
             }
-        } else if (ch == u'>' && i >= 2 && s[i - 1] == u']' && s[i - 2] == u']') {
-            // XML takes a ">" in text; only the sequence "]]>" is refused.
-            kind = Greater;
         } else if (illegalControl(ch)) {
             kind = Control;
             if (control.isNull())
@@ -163,53 +185,31 @@ std::vector<PadFinding> xmlTextProblems(const PadWrittenValue& v) {
             continue;
         const QString times =
             count[kind] > 1 ? QStringLiteral(" (%1 times)").arg(count[kind]) : QString();
-        QString message;
+        PadFinding f;
+        f.severity = PadFinding::Severity::Warning;
         switch (kind) {
-        case BareAmp:
-            message = QStringLiteral("a bare \"&\"%1 breaks the XML of the PAD file; Brevaro "
-                                     "writes the text exactly as typed, so type \"&amp;\" for "
-                                     "it")
-                          .arg(times);
-            break;
         case UnknownRef:
-            message = QStringLiteral("\"%1\"%2 is not a reference XML knows (only &amp; &lt; "
-                                     "&gt; &quot; &apos; and numbers like &#169;); type the "
-                                     "character itself, or \"&amp;\" for the \"&\"")
-                          .arg(unknownName, times);
+            f.message = QStringLiteral("\"%1\"%2 is not a reference XML knows (only &amp; &lt; "
+                                       "&gt; &quot; &apos; and numbers like &#169;): readers "
+                                       "show it as typed; type the character itself")
+                            .arg(unknownName, times);
             break;
-        case Less: {
-            const QString& html = firstTag;
-            message = html.isEmpty()
-                          ? QStringLiteral("a \"<\"%1 breaks the XML of the PAD file; type it "
-                                           "as \"&lt;\"")
-                                .arg(times)
-                          : QStringLiteral("the tag \"%1\" breaks the XML of the PAD file and "
-                                           "directories take no HTML; remove it, or type "
-                                           "\"&lt;\" and \"&gt;\" for the brackets")
-                                .arg(html);
-            break;
-        }
-        case Greater:
-            message = QStringLiteral("\"]]>\"%1 breaks the XML of the PAD file; type its "
-                                     "\">\" as \"&gt;\"")
-                          .arg(times);
+        case Tag:
+            f.message = QStringLiteral("the tag \"%1\"%2 shows as text: directories take no "
+                                       "HTML; remove it")
+                            .arg(firstTag, times);
             break;
         case Control:
-            message =
+            f.severity = PadFinding::Severity::Error;
+            f.message =
                 QStringLiteral("the control character U+%1%2 is not allowed in XML; "
                                "remove it")
                     .arg(QString::number(control.unicode(), 16).toUpper().rightJustified(4, u'0'))
                     .arg(times);
             break;
         }
-        if (kind == BareAmp || kind == Less || kind == Greater)
-            message += QStringLiteral(": \"%1\"")
-                           .arg(excerpt(escapedText(s), escapedText(s.left(first[kind])).size()));
-        PadFinding f;
-        f.severity = PadFinding::Severity::Error;
         f.element = v.element;
         f.value = excerpt(s, first[kind]);
-        f.message = message;
         f.side = v.side;
         f.field = v.field;
         f.entry = v.entry;

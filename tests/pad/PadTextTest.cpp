@@ -1,11 +1,12 @@
 #include "pad/PadText.h"
 #include "TestSupport.h"
+#include "pad/PadXmlText.h"
 #include "pad/VerificationReport.h"
 #include "pad/WebInfo.h"
 #include "records/ValueLists.h"
 
 #include <QRegularExpression>
-
+#include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
 using namespace brevaro;
@@ -63,7 +64,7 @@ TEST(PadText, ValuesFlagsAndLanguages) {
     p.setNumber(PF::IncludesDirectX, -1);
     const QStringList l = lines(CreatePADText(c, p));
     for (const QString& line :
-         {u" <Company_Name>A&B <Tools></Company_Name>"_s, u" <Program_Name />"_s,
+         {u" <Company_Name>A&amp;B &lt;Tools></Company_Name>"_s, u" <Program_Name />"_s,
           u" <Program_OS_Support>Win95,Win98,WinXP</Program_OS_Support>"_s,
           u" <Program_Language>English,German</Program_Language>"_s,
           u" <Includes_DirectX>Y</Includes_DirectX>"_s})
@@ -74,6 +75,31 @@ TEST(PadText, ValuesFlagsAndLanguages) {
               u"  <Char_Desc_45 />|  <Char_Desc_80 />|  <Char_Desc_250 />|  <Char_Desc_450 />|"
               u"  <Char_Desc_2000>line one|line two</Char_Desc_2000>| </Russian>|"
               u"</Program_Descriptions>|"_s);
+}
+
+// A value is written well-formed: what XML would refuse is escaped, what it takes is written as
+// it stands, and reading the written text back gives the value as typed.
+TEST(PadText, ValuesAreWrittenWellFormed) {
+    const std::pair<QString, QString> cases[] = {
+        {u"faster drawing & new port list"_s, u"faster drawing &amp; new port list"_s},
+        {u"a description with <beta> in it"_s, u"a description with &lt;beta> in it"_s},
+        {u"a]]>b ]]]> c > d"_s, u"a]]&gt;b ]]]&gt; c > d"_s},
+        {u"&nbsp; &#0; &#xD800; &; & amp;"_s,
+         u"&amp;nbsp; &amp;#0; &amp;#xD800; &amp;; &amp; amp;"_s},
+        {u"Smith &amp; Sons &#169; &#xA9; &quot;x&quot; &lt;&gt;&apos;"_s,
+         u"Smith &amp; Sons &#169; &#xA9; &quot;x&quot; &lt;&gt;&apos;"_s},
+        {u"plain text, line one\r\nline two"_s, u"plain text, line one\r\nline two"_s}};
+    for (const auto& [typed, written] : cases) {
+        EXPECT_EQ(wellFormedXmlText(typed), written);
+        QXmlStreamReader reader(u"<a>"_s + written + u"</a>"_s);
+        reader.readNextStartElement();
+        const QString read = reader.readElementText();
+        EXPECT_FALSE(reader.hasError()) << written.toStdString();
+        EXPECT_EQ(read, decodedXmlText(written).replace(u"\r\n"_s, u"\n"_s));
+        if (!typed.contains(u"&amp;"_s)) {
+            EXPECT_EQ(decodedXmlText(written), typed);
+        }
+    }
 }
 
 TEST(PadText, ExpiryVariants) {

@@ -5,6 +5,7 @@
 #include "controls/FieldLabels.h"
 #include "pad/PadFieldRules.h"
 #include "pad/PadText.h"
+#include "pad/PadXmlText.h"
 
 #include <QRegularExpression>
 #include <gtest/gtest.h>
@@ -38,7 +39,8 @@ TEST(PadWrittenValues, AreWhatTheWriterWrites) {
         for (const auto& v : padWrittenValues(company, program)) {
             // An empty value has the short form, or the full one in the extension blocks.
             const QString shortForm = u'<' + v.element + u" />"_s;
-            const QString written = u'<' + v.element + u'>' + v.value + u"</"_s + v.element + u'>';
+            const QString written =
+                u'<' + v.element + u'>' + wellFormedXmlText(v.value) + u"</"_s + v.element + u'>';
             const qsizetype shortAt = v.value.isEmpty() ? pad.indexOf(shortForm, at) : -1;
             const qsizetype found = shortAt >= 0 ? shortAt : pad.indexOf(written, at);
             ASSERT_GE(found, 0) << written.toStdString();

@@ -27,7 +27,7 @@ protected:
 // The check sees what the screen shows, before it is saved, and leaves the records alone.
 TEST_F(PadCheckCommandsTest, ChecksTheScreenNotTheStoredRecords) {
     screen().setListIndex(id(u"SSTab1"), 0);
-    type(u"txtCity", u"Smith & Sons"_s);
+    type(u"txtCity", u"Smith\x01Sons"_s);
     const auto findings = session->pad().checkScreen();
     const PadFinding* city = findingFor(findings, "City_Town");
     ASSERT_TRUE(city);
@@ -68,14 +68,15 @@ TEST_F(PadCheckCommandsTest, AFindingLeadsToItsField) {
     EXPECT_EQ(at(u"SSTab1").listIndex, 0);
 }
 
-// Create PAD writes what the author asked for and says afterwards that sites will reject it.
+// Create PAD writes what the author asked for, escaped where XML needs it, and says afterwards
+// that sites will reject what cannot be written.
 TEST_F(PadCheckCommandsTest, CreatePadWritesThenTellsOfErrors) {
-    type(u"txtProgramVersion", u"1 < 2"_s);
+    type(u"txtProgramVersion", u"1 < 2\x01"_s);
     command(ControlAction::SaveProgram);
     const QString path = home.file(u"rocket.xml"_s);
     prompts.files.push_back(path);
     command(ControlAction::CreatePAD);
-    EXPECT_TRUE(readBytes(path).contains("<Program_Version>1 < 2</Program_Version>"));
+    EXPECT_TRUE(readBytes(path).contains("<Program_Version>1 &lt; 2\x01</Program_Version>"));
     EXPECT_TRUE(status().contains(u"Check PAD"_s)) << status().toStdString();
 
     type(u"txtProgramVersion", u"1.2"_s);
