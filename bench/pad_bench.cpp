@@ -89,16 +89,26 @@ void BM_ScanManyOpeningTags(benchmark::State& state) {
 }
 BENCHMARK(BM_ScanManyOpeningTags)->Unit(benchmark::kMillisecond);
 
+// 10,000 documents of each version, as their files hold them: 1.15 in Windows-1252, the later
+// versions in UTF-8 (the argument is the version).
 void BM_Write10000PadDocuments(benchmark::State& state) {
+    const auto version = static_cast<PadVersion>(state.range(0));
+    state.SetLabel(padVersionText(version).toStdString());
     const CompanyRecord c = sampleCompany();
-    const ProgramRecord p = sampleProgram();
+    ProgramRecord p = sampleProgram();
+    p.setText(ProgramField::CategoryClass, u"Text Editors, Notes");
+    p.setText(ProgramField::SpecificCategory, u"Utilities");
     for (auto _ : state) {
         qsizetype total = 0;
         for (int i = 0; i < 10000; ++i)
-            total += toWin1252(CreatePADText(c, p)).size();
+            total += padFileBytes(CreatePADText(c, p, version), version).size();
         benchmark::DoNotOptimize(total);
     }
 }
-BENCHMARK(BM_Write10000PadDocuments)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_Write10000PadDocuments)
+    ->Arg(static_cast<int>(PadVersion::V1_15))
+    ->Arg(static_cast<int>(PadVersion::V3_11))
+    ->Arg(static_cast<int>(PadVersion::V4_0))
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -41,8 +41,16 @@ const QString kCrLf = QStringLiteral("\r\n");
 } // namespace
 
 int padCommand(CliContext& ctx, const QStringList& words) {
-    const CliArgs args(words, {QStringLiteral("-c"), QStringLiteral("-p"), QStringLiteral("-o")},
+    const CliArgs args(words,
+                       {QStringLiteral("-c"), QStringLiteral("-p"), QStringLiteral("-o"),
+                        QStringLiteral("--format")},
                        {QStringLiteral("--check")});
+    const auto version = args.has(QStringLiteral("--format"))
+                             ? padVersionFromText(args.value(QStringLiteral("--format")))
+                             : std::optional(PadVersion::V1_15);
+    if (!version)
+        throw CliError{1, QStringLiteral("--format takes 1.15, 3.11 or 4.0, not %1")
+                              .arg(args.value(QStringLiteral("--format")))};
     const bool intoHome =
         args.has(QStringLiteral("-o")) &&
         QDir::cleanPath(QFileInfo(args.value(QStringLiteral("-o"))).absoluteFilePath())
@@ -50,8 +58,10 @@ int padCommand(CliContext& ctx, const QStringList& words) {
     EditingSession& s = showProgram(ctx, args, intoHome);
     if (args.has(QStringLiteral("--check")))
         refusePadWithErrors(s.company(), s.program());
-    if (!args.has(QStringLiteral("-o"))) {
-        ctx.printBytes(toWin1252(QString(CreatePADText(s.company(), s.program()) + kCrLf)));
+    // A later version is one UTF-8 file; its web info block is the 1.15 file's companion.
+    if (!args.has(QStringLiteral("-o")) || *version != PadVersion::V1_15) {
+        writeOrPrint(ctx, args,
+                     padFileBytes(CreatePADText(s.company(), s.program(), *version), *version));
         return 0;
     }
     // The companion goes beside the PAD file, so the folder must be a real one: a bare file

@@ -77,11 +77,11 @@ bool PadFieldRule::accepts(const QString& value) const {
     return regex.match(value).hasMatch();
 }
 
-// The table, parsed once; the advice of each rule is phrased here, once.
-std::vector<PadFieldRule> parsePadFieldRules() {
+// A table, parsed once; the advice of each rule is phrased here, once.
+std::vector<PadFieldRule> parsePadFieldRules(const QString& resource) {
     std::vector<PadFieldRule> rules;
     // The published table, built into the program as a resource.
-    QFile file(QStringLiteral(":/pad/PadFieldRules.tsv"));
+    QFile file(resource);
     const bool opened = file.open(QIODevice::ReadOnly);
     Q_ASSERT_X(opened, "padFieldRules", "the rules resource is missing");
     const QStringList lines =
@@ -107,13 +107,16 @@ std::vector<PadFieldRule> parsePadFieldRules() {
     return rules;
 }
 
-const std::vector<PadFieldRule>& padFieldRules() {
-    static const std::vector<PadFieldRule> rules = parsePadFieldRules();
-    return rules;
+const std::vector<PadFieldRule>& padFieldRules(PadVersion version) {
+    static const std::vector<PadFieldRule> current =
+        parsePadFieldRules(QStringLiteral(":/pad/PadFieldRules.tsv"));
+    static const std::vector<PadFieldRule> v40 =
+        parsePadFieldRules(QStringLiteral(":/pad/PadFieldRules40.tsv"));
+    return version == PadVersion::V4_0 ? v40 : current;
 }
 
-const PadFieldRule* padFieldRule(QStringView element) {
-    for (const auto& rule : padFieldRules())
+const PadFieldRule* padFieldRule(QStringView element, PadVersion version) {
+    for (const auto& rule : padFieldRules(version))
         if (rule.element == element)
             return &rule;
     return nullptr;

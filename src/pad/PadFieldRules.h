@@ -1,5 +1,7 @@
 #pragma once
 
+#include "pad/PadVersion.h"
+
 #include <QRegularExpression>
 #include <QString>
 #include <vector>
@@ -24,13 +26,16 @@ struct PadFieldRule {
     const QString& advice() const { return m_advice; }
 
 private:
-    friend std::vector<PadFieldRule> parsePadFieldRules();
+    friend std::vector<PadFieldRule> parsePadFieldRules(const QString& resource);
     QString m_advice;
 };
 
-// Every rule, in the order of the table.
-const std::vector<PadFieldRule>& padFieldRules();
+// Every rule of a version, in the order of its table: 4.0 has its own; 1.15 files are checked
+// against 3.11's, the current rules when 1.15 was last read by directories.
+const std::vector<PadFieldRule>& padFieldRules(PadVersion version = PadVersion::V3_11);
 // The rule of an element (by its name, e.g. "Author_Email"), or nullptr when none is published.
-const PadFieldRule* padFieldRule(QStringView element);
+// Where an element appears twice (Keywords of the descriptions and of the press release), the
+// first.
+const PadFieldRule* padFieldRule(QStringView element, PadVersion version = PadVersion::V3_11);
 
 } // namespace brevaro

@@ -2,7 +2,7 @@
 
 #include "AppVersion.h"
 #include "pad/PadLayout.h"
-#include "pad/PadXmlText.h"
+#include "pad/PadLines.h"
 #include "platform/StringHelpers.h"
 #include "platform/WebAddresses.h"
 #include "records/ValueLists.h"
@@ -14,35 +14,7 @@ namespace {
 using CF = CompanyField;
 using PF = ProgramField;
 
-const QString kCrLf = QStringLiteral("\r\n");
-
-// Builds the document line by line.
-class Lines {
-public:
-    void line(int blanks, const QString& text) { m_text += QString(blanks, u' ') + text + kCrLf; }
-    void empty() { m_text += kCrLf; }
-    // The value element rule: full form with a value, "<Name />" without.
-    void value(int blanks, const char* element, const QString& v) {
-        const QString name = QLatin1String(element);
-        if (v.isEmpty())
-            line(blanks, u'<' + name + QStringLiteral(" />"));
-        else
-            full(blanks, element, v);
-    }
-    // Full form always, as the association blocks and Y/N flags are written.
-    void full(int blanks, const char* element, const QString& v) {
-        const QString name = QLatin1String(element);
-        line(blanks,
-             u'<' + name + u'>' + wellFormedXmlText(v) + QStringLiteral("</") + name + u'>');
-    }
-    void yesNo(int blanks, const char* element, bool set) {
-        full(blanks, element, set ? QStringLiteral("Y") : QStringLiteral("N"));
-    }
-    const QString& text() const { return m_text; }
-
-private:
-    QString m_text;
-};
+using Lines = PadLines;
 
 bool nonZero(const ProgramRecord& p, PF f, int i = 0) {
     return p.number(f, i) != 0;

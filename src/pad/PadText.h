@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pad/PadLayout.h"
+#include "pad/PadVersion.h"
 #include "records/CompanyRecord.h"
 #include "records/ProgramRecord.h"
 
@@ -28,5 +29,13 @@ QString padValue(const PadRow& row, const CompanyRecord& company, const ProgramR
 
 // The PAD 1.15 document of the two records; every line ends with CR LF.
 QString CreatePADText(const CompanyRecord& company, const ProgramRecord& program);
+// The document of the two records in a version: 1.15 as above; 3.11 and 4.0 in their published
+// element order, with the operating systems and languages in their lists' tokens and the
+// category class proposed from the 1.15 categories.
+QString CreatePADText(const CompanyRecord& company, const ProgramRecord& program,
+                      PadVersion version);
+// The bytes of a PAD file holding document: Windows-1252 for 1.15, UTF-8 for the later
+// versions, with the final line end every PAD file has.
+QByteArray padFileBytes(const QString& document, PadVersion version);
 
 } // namespace brevaro

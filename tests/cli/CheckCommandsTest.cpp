@@ -1,5 +1,6 @@
 #include "CleanRecords.h"
 #include "CliTestSupport.h"
+#include "pad/PadFieldRules.h"
 #include "store/RecordStore.h"
 
 #include <QDir>
@@ -7,6 +8,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
 using namespace brevaro;
@@ -119,5 +121,26 @@ TEST(CliCheck, SamplesAfterImport) {
         EXPECT_GT(lines.size(), 3);
         for (const QString& line : lines)
             EXPECT_EQ(line.count(u'\t'), 2) << line.toStdString();
+        // The later versions: well-formed UTF-8, and what Brevaro took from the published
+        // lists matches their patterns.
+        for (PadVersion v : {PadVersion::V3_11, PadVersion::V4_0}) {
+            const CliResult later =
+                run(t, "pad", "-c", "1", "-p", "1", "--format", padVersionText(v));
+            ASSERT_EQ(later.status, 0) << later.err.toStdString();
+            QXmlStreamReader reader(later.out);
+            while (!reader.atEnd()) {
+                if (reader.readNext() != QXmlStreamReader::StartElement)
+                    continue;
+                const QString name = reader.name().toString();
+                if (name != u"Program_OS_Support"_s && name != u"Program_Language"_s &&
+                    name != u"Program_Category_Class"_s)
+                    continue;
+                const QString value = reader.readElementText();
+                EXPECT_TRUE(value.isEmpty() || padFieldRule(name, v)->accepts(value))
+                    << name.toStdString() << ": " << value.toStdString();
+            }
+            EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+            EXPECT_TRUE(later.out.startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\" ?>"));
+        }
     }
 }

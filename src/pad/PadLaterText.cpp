@@ -1,0 +1,150 @@
+// The PAD 3.11 and 4.0 documents: one writer over the later layout's rows.
+#include "AppVersion.h"
+#include "pad/PadLaterLayout.h"
+#include "pad/PadLines.h"
+#include "pad/PadText.h"
+#include "pad/PadTokens.h"
+#include "platform/StringHelpers.h"
+#include "platform/Win1252.h"
+#include "records/ValueLists.h"
+
+namespace brevaro {
+
+namespace {
+
+using K = LaterRowKind;
+using PF = ProgramField;
+
+bool flagSet(const ProgramRecord& p, PF f, int i = 0) {
+    return p.number(f, i) != 0;
+}
+
+const char* elementOf(const LaterPadRow& row) {
+    return row.element ? row.element : layoutOf(row.side).field(row.field).padElement;
+}
+
+QString fixedValue(const char* element, PadVersion version) {
+    const QLatin1String name(element);
+    if (name == QLatin1String("MASTER_PAD_VERSION"))
+        return padVersionText(version);
+    if (name == QLatin1String("MASTER_PAD_EDITOR"))
+        return QLatin1String(kAppTitle) + u' ' + versionText();
+    return padStandardDescription();
+}
+
+// The seven elements in the published order; a date-based expiry writes its date and no count,
+// any other its count and no date.
+void expiry(PadLines& d, int indent, const ProgramRecord& p) {
+    const bool byDate = flagSet(p, PF::ExpireBasedOn, 3);
+    const QString month = byDate ? p.text(PF::ExpireMonth) : QString();
+    d.yesNo(indent, "Has_Expire_Info", flagSet(p, PF::HasExpireInfo));
+    d.value(indent, "Expire_Count", byDate ? QString() : p.text(PF::ExpireCount));
+    d.value(indent, "Expire_Based_On",
+            byDate ? (month.isEmpty() ? QString() : QStringLiteral("Date"))
+                   : expireBasedOnCaption(p));
+    d.value(indent, "Expire_Other_Info", p.text(PF::ExpireOtherInfo));
+    d.value(indent, "Expire_Month", month);
+    d.value(indent, "Expire_Day", byDate ? p.text(PF::ExpireDay) : QString());
+    d.value(indent, "Expire_Year", byDate ? p.text(PF::ExpireYear) : QString());
+}
+
+void descriptions(PadLines& d, int indent, const ProgramRecord& p) {
+    const QStringList& languages = languageList();
+    for (int i = 0; i < ProgramRecord::kLanguages; ++i) {
+        if (p.number(PF::DescriptionActive, i) != 1)
+            continue;
+        const QString language = trimBlanks(languages.value(i));
+        d.line(indent, u'<' + language + u'>');
+        for (PF f : descriptionFields())
+            d.value(indent + 1, programLayout().field(static_cast<int>(f)).padElement,
+                    p.text(f, i));
+        d.line(indent, QStringLiteral("</") + language + u'>');
+    }
+}
+
+QString laterPadText(PadVersion version, const CompanyRecord& company,
+                     const ProgramRecord& program) {
+    PadLines d;
+    d.line(0, QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\" ?>"));
+    bool blockActive = false;
+    for (const LaterPadRow& row : laterPadRows()) {
+        if (!inVersion(row, version))
+            continue;
+        if (!blockActive && (row.kind == K::MemberYesNo || row.kind == K::MemberText))
+            continue;
+        const char* name = elementOf(row);
+        const auto f = static_cast<PF>(row.field);
+        const FixedRecord& record =
+            row.side == RecordSide::Company ? static_cast<const FixedRecord&>(company) : program;
+        switch (row.kind) {
+        case K::Open:
+            d.line(row.indent, u'<' + QLatin1String(name) + u'>');
+            break;
+        case K::Close:
+            d.line(row.indent, QStringLiteral("</") + QLatin1String(name) + u'>');
+            break;
+        case K::Fixed:
+            d.full(row.indent, name, fixedValue(name, version));
+            break;
+        case K::Value:
+            d.value(row.indent, name, record.text(row.field));
+            break;
+        case K::Unset:
+            d.value(row.indent, name, QString());
+            break;
+        case K::YesNo:
+            d.yesNo(row.indent, name, flagSet(program, f));
+            break;
+        case K::OsTokens:
+            d.value(row.indent, name, laterOsTokens(program, version).join(u','));
+            break;
+        case K::Languages:
+            d.value(row.indent, name, laterLanguageTokens(program).join(u','));
+            break;
+        case K::CategoryClass:
+            d.value(row.indent, name, proposedCategoryClass(program));
+            break;
+        case K::Expiry:
+            expiry(d, row.indent, program);
+            break;
+        case K::Descriptions:
+            descriptions(d, row.indent, program);
+            break;
+        case K::Association:
+            blockActive = program.number(f) == 1;
+            if (blockActive) {
+                d.line(row.indent, u'<' + QLatin1String(row.element) + u'>');
+                d.full(row.indent + 1, layoutOf(row.side).field(row.field).padElement,
+                       QStringLiteral("Y"));
+            }
+            break;
+        case K::MemberYesNo:
+            d.yesNo(row.indent, name, program.number(f) == 1);
+            break;
+        case K::MemberText:
+            d.full(row.indent, name, program.text(f));
+            break;
+        case K::AssociationEnd:
+            if (blockActive)
+                d.line(row.indent, QStringLiteral("</") + QLatin1String(row.element) + u'>');
+            blockActive = false;
+            break;
+        }
+    }
+    return d.text();
+}
+
+} // namespace
+
+QString CreatePADText(const CompanyRecord& company, const ProgramRecord& program,
+                      PadVersion version) {
+    return version == PadVersion::V1_15 ? CreatePADText(company, program)
+                                        : laterPadText(version, company, program);
+}
+
+QByteArray padFileBytes(const QString& document, PadVersion version) {
+    const QString text = document + QStringLiteral("\r\n");
+    return version == PadVersion::V1_15 ? toWin1252(text) : text.toUtf8();
+}
+
+} // namespace brevaro
