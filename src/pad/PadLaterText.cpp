@@ -32,16 +32,14 @@ QString fixedValue(const char* element, PadVersion version) {
     return padStandardDescription();
 }
 
-// The seven elements in the published order; a date-based expiry writes its date and no count,
-// any other its count and no date.
+// The seven elements in the published order; a date-based expiry writes its date and no count
+// (the later lists have no "Date" basis: the date says it), any other its count and no date.
 void expiry(PadLines& d, int indent, const ProgramRecord& p) {
     const bool byDate = flagSet(p, PF::ExpireBasedOn, 3);
     const QString month = byDate ? p.text(PF::ExpireMonth) : QString();
     d.yesNo(indent, "Has_Expire_Info", flagSet(p, PF::HasExpireInfo));
     d.value(indent, "Expire_Count", byDate ? QString() : p.text(PF::ExpireCount));
-    d.value(indent, "Expire_Based_On",
-            byDate ? (month.isEmpty() ? QString() : QStringLiteral("Date"))
-                   : expireBasedOnCaption(p));
+    d.value(indent, "Expire_Based_On", byDate ? QString() : expireBasedOnCaption(p));
     d.value(indent, "Expire_Other_Info", p.text(PF::ExpireOtherInfo));
     d.value(indent, "Expire_Month", month);
     d.value(indent, "Expire_Day", byDate ? p.text(PF::ExpireDay) : QString());

@@ -107,6 +107,29 @@ TEST(PadLaterText, MappedValuesAreFromThePublishedLists) {
         EXPECT_TRUE(padFieldRule(u"Program_Language", v)->accepts(languages));
     }
     EXPECT_EQ(laterOsTokens(program, PadVersion::V4_0).count(u"WinOther"_s), 1);
+    // What the writer derives rather than copies, for an expiry by date and by count.
+    for (int basis : {3, 0}) {
+        ProgramRecord p = program;
+        for (int i = 0; i < 4; ++i)
+            p.setNumber(PF::ExpireBasedOn, i == basis ? 1 : 0, i);
+        p.setText(PF::ExpireCount, u"30");
+        QXmlStreamReader reader(CreatePADText(fullCompany(), p, PadVersion::V4_0));
+        const QStringList derived = {u"MASTER_PAD_VERSION"_s, u"Has_Expire_Info"_s,
+                                     u"Expire_Based_On"_s, u"Expire_Count"_s,
+                                     u"Program_OS_Support"_s, u"Program_Language"_s};
+        int seen = 0;
+        while (!reader.atEnd()) {
+            if (reader.readNext() != QXmlStreamReader::StartElement ||
+                !derived.contains(reader.name()))
+                continue;
+            const QString name = reader.name().toString();
+            const QString value = reader.readElementText();
+            EXPECT_TRUE(padFieldRule(name, PadVersion::V4_0)->accepts(value))
+                << name.toStdString() << ": " << value.toStdString();
+            ++seen;
+        }
+        EXPECT_EQ(seen, derived.size());
+    }
     EXPECT_EQ(categoryClasses().size(), 155);
     EXPECT_EQ(laterLanguages().size(), 139);
 }
