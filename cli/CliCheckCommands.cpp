@@ -36,14 +36,17 @@ QJsonArray findingsJson(const std::vector<PadFinding>& findings) {
 } // namespace
 
 int checkCommand(CliContext& ctx, const QStringList& words) {
-    const CliArgs args(words, {QStringLiteral("-c"), QStringLiteral("-p")},
+    const CliArgs args(words,
+                       {QStringLiteral("-c"), QStringLiteral("-p"), QStringLiteral("--format")},
                        {QStringLiteral("--json")});
+    const PadVersion version = formatOption(args);
     if (!args.positional().isEmpty())
         throw CliError{1, QStringLiteral("unexpected argument %1").arg(args.positional().front())};
     EditingSession& s = ctx.readingSession();
     const int c = ctx.company(args.required(QStringLiteral("-c")));
     ctx.select(c, ctx.program(ctx.companyId(c), args.required(QStringLiteral("-p"))));
-    const std::vector<PadFinding> findings = withFieldLabels(checkPad(s.company(), s.program()));
+    const std::vector<PadFinding> findings =
+        withFieldLabels(checkPad(s.company(), s.program(), version));
     if (args.has(QStringLiteral("--json"))) {
         ctx.print(QString::fromUtf8(QJsonDocument(findingsJson(findings)).toJson()));
     } else {
@@ -58,8 +61,9 @@ int checkCommand(CliContext& ctx, const QStringList& words) {
     return hasErrors(findings) ? kCheckFoundErrors : 0;
 }
 
-void refusePadWithErrors(const CompanyRecord& company, const ProgramRecord& program) {
-    const std::vector<PadFinding> findings = withFieldLabels(checkPad(company, program));
+void refusePadWithErrors(const CompanyRecord& company, const ProgramRecord& program,
+                         PadVersion version) {
+    const std::vector<PadFinding> findings = withFieldLabels(checkPad(company, program, version));
     if (!hasErrors(findings))
         return;
     int errors = 0;

@@ -14,7 +14,7 @@ const std::vector<CliCommand>& cliCommands() {
          padCommand},
         {"webinfo", "webinfo -c COMPANY -p PROGRAM", webinfoCommand},
         {"verify", "verify -c COMPANY -p PROGRAM [-o FILE]", verifyCommand},
-        {"check", "check -c COMPANY -p PROGRAM [--json]", checkCommand},
+        {"check", "check -c COMPANY -p PROGRAM [--format 1.15|3.11|4.0] [--json]", checkCommand},
         {"import", "import FILE...", importCommand},
         {"keywords", "keywords (URL | --file FILE)", keywordsCommand},
         {"sites", "sites (URL | --file FILE)", sitesCommand},

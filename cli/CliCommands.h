@@ -1,6 +1,8 @@
 #pragma once
 
+#include "CliArgs.h"
 #include "CliContext.h"
+#include "pad/PadVersion.h"
 
 #include <functional>
 
@@ -34,7 +36,10 @@ int importCommand(CliContext& ctx, const QStringList& words);
 inline constexpr int kCheckFoundErrors = 3;
 int checkCommand(CliContext& ctx, const QStringList& words);
 // Ends the command with kCheckFoundErrors when the PAD file of the records has errors.
-void refusePadWithErrors(const CompanyRecord& company, const ProgramRecord& program);
+void refusePadWithErrors(const CompanyRecord& company, const ProgramRecord& program,
+                         PadVersion version);
+// The version --format names; 1.15 without it, a usage error for any other text.
+PadVersion formatOption(const CliArgs& args);
 // Network commands.
 int keywordsCommand(CliContext& ctx, const QStringList& words);
 int sitesCommand(CliContext& ctx, const QStringList& words);

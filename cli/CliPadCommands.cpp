@@ -40,28 +40,33 @@ const QString kCrLf = QStringLiteral("\r\n");
 
 } // namespace
 
+PadVersion formatOption(const CliArgs& args) {
+    if (!args.has(QStringLiteral("--format")))
+        return PadVersion::V1_15;
+    const auto version = padVersionFromText(args.value(QStringLiteral("--format")));
+    if (!version)
+        throw CliError{1, QStringLiteral("--format takes 1.15, 3.11 or 4.0, not %1")
+                              .arg(args.value(QStringLiteral("--format")))};
+    return *version;
+}
+
 int padCommand(CliContext& ctx, const QStringList& words) {
     const CliArgs args(words,
                        {QStringLiteral("-c"), QStringLiteral("-p"), QStringLiteral("-o"),
                         QStringLiteral("--format")},
                        {QStringLiteral("--check")});
-    const auto version = args.has(QStringLiteral("--format"))
-                             ? padVersionFromText(args.value(QStringLiteral("--format")))
-                             : std::optional(PadVersion::V1_15);
-    if (!version)
-        throw CliError{1, QStringLiteral("--format takes 1.15, 3.11 or 4.0, not %1")
-                              .arg(args.value(QStringLiteral("--format")))};
+    const PadVersion version = formatOption(args);
     const bool intoHome =
         args.has(QStringLiteral("-o")) &&
         QDir::cleanPath(QFileInfo(args.value(QStringLiteral("-o"))).absoluteFilePath())
             .startsWith(QDir::cleanPath(ctx.home().root()) + u'/');
     EditingSession& s = showProgram(ctx, args, intoHome);
     if (args.has(QStringLiteral("--check")))
-        refusePadWithErrors(s.company(), s.program());
+        refusePadWithErrors(s.company(), s.program(), version);
     // A later version is one UTF-8 file; its web info block is the 1.15 file's companion.
-    if (!args.has(QStringLiteral("-o")) || *version != PadVersion::V1_15) {
+    if (!args.has(QStringLiteral("-o")) || version != PadVersion::V1_15) {
         writeOrPrint(ctx, args,
-                     padFileBytes(CreatePADText(s.company(), s.program(), *version), *version));
+                     padFileBytes(CreatePADText(s.company(), s.program(), version), version));
         return 0;
     }
     // The companion goes beside the PAD file, so the folder must be a real one: a bare file

@@ -2,9 +2,13 @@
 
 #include "pad/PadFieldRules.h"
 #include "pad/PadText.h"
+#include "pad/PadTokens.h"
+#include "pad/PadWrittenValues.h"
 #include "records/ValueLists.h"
 
 #include <QDate>
+#include <QMap>
+#include <QUrl>
 #include <QXmlStreamReader>
 #include <algorithm>
 #include <cmath>
@@ -104,8 +108,49 @@ void checkListValue(const PadWrittenValue& v, const QString& parsed, const PadFi
                                       "that read 1.15 files take it; nothing to fix."))));
 }
 
-void checkRule(const PadWrittenValue& v, std::vector<PadFinding>& out) {
-    const PadFieldRule* rule = padFieldRule(v.element);
+bool isAddress(const PadWrittenValue& v) {
+    return v.element.endsWith(QLatin1String("_URL")) || v.element.endsWith(QLatin1String("Page"));
+}
+
+// An address with a letter outside Latin-1: the published patterns let it pass, but many
+// readers that fetch it do not; the percent-encoded form works everywhere.
+bool checkAddressLetters(const PadWrittenValue& v, const QString& parsed,
+                         std::vector<PadFinding>& out) {
+    if (!isAddress(v))
+        return false;
+    for (QChar ch : parsed)
+        if (ch.unicode() > 0xFF) {
+            out.push_back(finding(Severity::Warning, v,
+                                  QStringLiteral("holds \"%1\", a letter outside Latin-1, which "
+                                                 "many readers cannot fetch; write the address "
+                                                 "as %2")
+                                      .arg(ch, QString::fromLatin1(QUrl(parsed).toEncoded()))));
+            return true;
+        }
+    return false;
+}
+
+// A download address the published rule refuses for its extension, said in words.
+bool explainDownloadExtension(const PadWrittenValue& v, const QString& parsed,
+                              std::vector<PadFinding>& out) {
+    static const QRegularExpression package(
+        QStringLiteral("\\.(deb|rpm|AppImage|flatpak|snap|7z|xz|bz2|zst)$"),
+        QRegularExpression::CaseInsensitiveOption);
+    const auto m = package.match(parsed);
+    if (!v.element.contains(QLatin1String("Download_URL")) || !m.hasMatch())
+        return false;
+    out.push_back(finding(
+        Severity::Warning, v,
+        QStringLiteral("ends in .%1, which the published download rule refuses (it takes air apk "
+                       "app bin com exe dmg hqx gz gzip jar msi rar sea sh sis sit sitx tar taz "
+                       "tgx tgz uu z zip, in lower case); link a .tar.gz or .zip, or leave the "
+                       "package to the page that lists it")
+            .arg(m.captured(1))));
+    return true;
+}
+
+void checkRule(const PadWrittenValue& v, PadVersion version, std::vector<PadFinding>& out) {
+    const PadFieldRule* rule = padFieldRule(v.element, version);
     if (!rule)
         return;
     const QString parsed = xmlParsedText(v.value);
@@ -117,9 +162,19 @@ void checkRule(const PadWrittenValue& v, std::vector<PadFinding>& out) {
                                       rule->advice()));
         return;
     }
-    if (hasOldList(v))
+    if (version == PadVersion::V1_15 && hasOldList(v))
         return checkListValue(v, parsed, *rule, out);
+    const bool later = version != PadVersion::V1_15;
+    if (later && (parsed.endsWith(u'\n') || parsed.endsWith(u'\r')))
+        out.push_back(finding(Severity::Warning, v,
+                              QStringLiteral("ends with a line break, which the published check "
+                                             "lets pass but many readers keep as an empty line; "
+                                             "remove it")));
+    if (later && checkAddressLetters(v, parsed, out))
+        return;
     if (rule->accepts(parsed))
+        return;
+    if (later && explainDownloadExtension(v, parsed, out))
         return;
     // The published patterns are case-sensitive ("screen.GIF" fails).
     const QString hint = rule->accepts(parsed.toLower())
@@ -235,10 +290,41 @@ void checkCharacterSet(const PadWrittenValue& v, std::vector<PadFinding>& out) {
     }
 }
 
+// The 1.15 systems that a later list has no token of their own for, and the catch-all they are
+// written as; and the Windows versions that no list names.
+void checkSystems(const ProgramRecord& program, const std::vector<PadWrittenValue>& values,
+                  std::vector<PadFinding>& out) {
+    const PadWrittenValue* systems = find(values, "Program_OS_Support");
+    if (!systems)
+        return;
+    QMap<QString, QStringList> approximated;
+    const QStringList& items = operatingSystemList();
+    for (int i = 0; i < items.size(); ++i)
+        for (const OsMapping& m : osMappings())
+            if (program.number(PF::OSSupported, i) != 0 && !m.exact &&
+                items[i].trimmed() == QLatin1String(m.from))
+                approximated[QLatin1String(m.to)] << QLatin1String(m.from);
+    for (auto it = approximated.cbegin(); it != approximated.cend(); ++it)
+        out.push_back(
+            finding(Severity::Note, *systems,
+                    QStringLiteral("%1 %2 no token in the published list and %3 "
+                                   "written as \"%4\"")
+                        .arg(quotedList(it.value()),
+                             it.value().size() > 1 ? QStringLiteral("have") : QStringLiteral("has"),
+                             it.value().size() > 1 ? QStringLiteral("are") : QStringLiteral("is"),
+                             it.key())));
+    if (systems->value.split(u',').contains(QStringLiteral("WinOther")))
+        out.push_back(finding(Severity::Note, *systems,
+                              QStringLiteral("the published lists have no token for Windows 10 "
+                                             "or 11: \"WinOther\" is the published choice for "
+                                             "them; tokens such as \"Win11 x64\" are refused by "
+                                             "strict checks")));
+}
+
 // A document error that no value explains (a safety net for the writer's own texts).
-void checkDocument(const CompanyRecord& company, const ProgramRecord& program,
+void checkDocument(const CompanyRecord& company, const ProgramRecord& program, PadVersion version,
                    std::vector<PadFinding>& out) {
-    QXmlStreamReader reader(CreatePADText(company, program));
+    QXmlStreamReader reader(CreatePADText(company, program, version));
     while (!reader.atEnd())
         reader.readNext();
     if (!reader.hasError())
@@ -253,27 +339,32 @@ void checkDocument(const CompanyRecord& company, const ProgramRecord& program,
 
 } // namespace
 
-std::vector<PadFinding> checkPad(const CompanyRecord& company, const ProgramRecord& program) {
-    const std::vector<PadWrittenValue> values = padWrittenValues(company, program);
+std::vector<PadFinding> checkPad(const CompanyRecord& company, const ProgramRecord& program,
+                                 PadVersion version) {
+    const std::vector<PadWrittenValue> values = padWrittenValues(company, program, version);
     std::vector<PadFinding> found;
     bool valueErrors = false;
     for (const auto& v : values) {
         auto errors = xmlTextProblems(v);
         valueErrors = valueErrors || !errors.empty();
         found.insert(found.end(), errors.begin(), errors.end());
-        checkCharacterSet(v, found);
+        if (version == PadVersion::V1_15)
+            checkCharacterSet(v, found);
         // A value that breaks the XML is not held against the rules as well.
         if (errors.empty())
-            checkRule(v, found);
+            checkRule(v, version, found);
     }
     if (!valueErrors)
-        checkDocument(company, program, found);
+        checkDocument(company, program, version, found);
+    if (version != PadVersion::V1_15)
+        checkSystems(program, values, found);
     checkSizes(values, found);
     checkDate(values, "Program_Release_Month", "Program_Release_Day", "Program_Release_Year",
               found);
     checkDate(values, "Expire_Month", "Expire_Day", "Expire_Year", found);
     checkExpiry(program, values, found);
-    if (const PadWrittenValue* categories = find(values, "Program_Categories"))
+    if (const PadWrittenValue* categories = find(values, "Program_Categories");
+        categories && version == PadVersion::V1_15)
         found.push_back(
             finding(Severity::Note, *categories,
                     QStringLiteral("PAD 1.15 writes Possible Categories as Program_Categories; the "

@@ -25,9 +25,11 @@ struct PadFinding {
     int entry = 0;
 };
 
-// Checks what Create PAD would write for the two records; changes nothing. Errors come
-// first, then warnings, then notes, each in the order of the document.
-std::vector<PadFinding> checkPad(const CompanyRecord& company, const ProgramRecord& program);
+// Checks what Create PAD would write for the two records in a version (1.15 against the 3.11
+// rules, 3.11 and 4.0 against their own); changes nothing. Errors come first, then warnings,
+// then notes, each in the order of the document.
+std::vector<PadFinding> checkPad(const CompanyRecord& company, const ProgramRecord& program,
+                                 PadVersion version = PadVersion::V1_15);
 
 // "error", "warning" or "note".
 QString severityName(PadFinding::Severity severity);

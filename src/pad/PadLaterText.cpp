@@ -32,20 +32,6 @@ QString fixedValue(const char* element, PadVersion version) {
     return padStandardDescription();
 }
 
-// The seven elements in the published order; a date-based expiry writes its date and no count
-// (the later lists have no "Date" basis: the date says it), any other its count and no date.
-void expiry(PadLines& d, int indent, const ProgramRecord& p) {
-    const bool byDate = flagSet(p, PF::ExpireBasedOn, 3);
-    const QString month = byDate ? p.text(PF::ExpireMonth) : QString();
-    d.yesNo(indent, "Has_Expire_Info", flagSet(p, PF::HasExpireInfo));
-    d.value(indent, "Expire_Count", byDate ? QString() : p.text(PF::ExpireCount));
-    d.value(indent, "Expire_Based_On", byDate ? QString() : expireBasedOnCaption(p));
-    d.value(indent, "Expire_Other_Info", p.text(PF::ExpireOtherInfo));
-    d.value(indent, "Expire_Month", month);
-    d.value(indent, "Expire_Day", byDate ? p.text(PF::ExpireDay) : QString());
-    d.value(indent, "Expire_Year", byDate ? p.text(PF::ExpireYear) : QString());
-}
-
 void descriptions(PadLines& d, int indent, const ProgramRecord& p) {
     const QStringList& languages = languageList();
     for (int i = 0; i < ProgramRecord::kLanguages; ++i) {
@@ -72,8 +58,6 @@ QString laterPadText(PadVersion version, const CompanyRecord& company,
             continue;
         const char* name = elementOf(row);
         const auto f = static_cast<PF>(row.field);
-        const FixedRecord& record =
-            row.side == RecordSide::Company ? static_cast<const FixedRecord&>(company) : program;
         switch (row.kind) {
         case K::Open:
             d.line(row.indent, u'<' + QLatin1String(name) + u'>');
@@ -85,25 +69,19 @@ QString laterPadText(PadVersion version, const CompanyRecord& company,
             d.full(row.indent, name, fixedValue(name, version));
             break;
         case K::Value:
-            d.value(row.indent, name, record.text(row.field));
-            break;
         case K::Unset:
-            d.value(row.indent, name, QString());
+        case K::OsTokens:
+        case K::Languages:
+        case K::CategoryClass:
+            d.value(row.indent, name, laterValue(row, company, program, version));
             break;
         case K::YesNo:
             d.yesNo(row.indent, name, flagSet(program, f));
             break;
-        case K::OsTokens:
-            d.value(row.indent, name, laterOsTokens(program, version).join(u','));
-            break;
-        case K::Languages:
-            d.value(row.indent, name, laterLanguageTokens(program).join(u','));
-            break;
-        case K::CategoryClass:
-            d.value(row.indent, name, proposedCategoryClass(program));
-            break;
         case K::Expiry:
-            expiry(d, row.indent, program);
+            for (const LaterExpiryValue& v : laterExpiryValues(program))
+                v.field == PF::HasExpireInfo ? d.full(row.indent, v.element, v.value)
+                                             : d.value(row.indent, v.element, v.value);
             break;
         case K::Descriptions:
             descriptions(d, row.indent, program);
@@ -133,6 +111,39 @@ QString laterPadText(PadVersion version, const CompanyRecord& company,
 }
 
 } // namespace
+
+std::array<LaterExpiryValue, 7> laterExpiryValues(const ProgramRecord& p) {
+    // A date-based expiry writes its date and no count (the later lists have no "Date" basis:
+    // the date says it), any other its count and no date.
+    const bool byDate = flagSet(p, PF::ExpireBasedOn, 3);
+    auto dated = [&](PF f) {
+        return byDate ? p.text(f) : QString();
+    };
+    return {{{"Has_Expire_Info", PF::HasExpireInfo,
+              flagSet(p, PF::HasExpireInfo) ? QStringLiteral("Y") : QStringLiteral("N")},
+             {"Expire_Count", PF::ExpireCount, byDate ? QString() : p.text(PF::ExpireCount)},
+             {"Expire_Based_On", PF::ExpireBasedOn, byDate ? QString() : expireBasedOnCaption(p)},
+             {"Expire_Other_Info", PF::ExpireOtherInfo, p.text(PF::ExpireOtherInfo)},
+             {"Expire_Month", PF::ExpireMonth, dated(PF::ExpireMonth)},
+             {"Expire_Day", PF::ExpireDay, dated(PF::ExpireDay)},
+             {"Expire_Year", PF::ExpireYear, dated(PF::ExpireYear)}}};
+}
+
+QString laterValue(const LaterPadRow& row, const CompanyRecord& company,
+                   const ProgramRecord& program, PadVersion version) {
+    switch (row.kind) {
+    case K::Value:
+        return row.side == RecordSide::Company ? company.text(row.field) : program.text(row.field);
+    case K::OsTokens:
+        return laterOsTokens(program, version).join(u',');
+    case K::Languages:
+        return laterLanguageTokens(program).join(u',');
+    case K::CategoryClass:
+        return proposedCategoryClass(program);
+    default:
+        return QString();
+    }
+}
 
 QString CreatePADText(const CompanyRecord& company, const ProgramRecord& program,
                       PadVersion version) {

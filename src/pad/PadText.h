@@ -1,11 +1,13 @@
 #pragma once
 
+#include "pad/PadLaterLayout.h"
 #include "pad/PadLayout.h"
 #include "pad/PadVersion.h"
 #include "records/CompanyRecord.h"
 #include "records/ProgramRecord.h"
 
 #include <QString>
+#include <array>
 
 namespace brevaro {
 
@@ -26,6 +28,17 @@ const QStringList& flagListItems(ProgramField field);
 // The value of a fixed row, and the value a value or list row writes for the two records.
 QString fixedValue(const PadRow& row);
 QString padValue(const PadRow& row, const CompanyRecord& company, const ProgramRecord& program);
+
+// The value a value, list or class row of a later version writes (empty for the others).
+QString laterValue(const LaterPadRow& row, const CompanyRecord& company,
+                   const ProgramRecord& program, PadVersion version);
+// The seven expiry elements of a later version, in their order, as written.
+struct LaterExpiryValue {
+    const char* element;
+    ProgramField field;
+    QString value;
+};
+std::array<LaterExpiryValue, 7> laterExpiryValues(const ProgramRecord& program);
 
 // The PAD 1.15 document of the two records; every line ends with CR LF.
 QString CreatePADText(const CompanyRecord& company, const ProgramRecord& program);

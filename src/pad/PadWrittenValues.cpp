@@ -69,4 +69,51 @@ std::vector<PadWrittenValue> padWrittenValues(const CompanyRecord& company,
     return out;
 }
 
+std::vector<PadWrittenValue> padWrittenValues(const CompanyRecord& company,
+                                              const ProgramRecord& program, PadVersion version) {
+    if (version == PadVersion::V1_15)
+        return padWrittenValues(company, program);
+    std::vector<PadWrittenValue> out;
+    auto add = [&](const char* element, RecordSide side, int field, int entry, QString value) {
+        out.push_back({QLatin1String(element), std::move(value), side, field, entry});
+    };
+    bool blockActive = false;
+    for (const LaterPadRow& row : laterPadRows()) {
+        if (!inVersion(row, version))
+            continue;
+        const char* element =
+            row.element ? row.element : layoutOf(row.side).field(row.field).padElement;
+        switch (row.kind) {
+        case LaterRowKind::Value:
+        case LaterRowKind::OsTokens:
+        case LaterRowKind::Languages:
+        case LaterRowKind::CategoryClass:
+            add(element, row.side, row.field, 0, laterValue(row, company, program, version));
+            break;
+        case LaterRowKind::Expiry:
+            for (const LaterExpiryValue& v : laterExpiryValues(program))
+                add(v.element, RecordSide::Program, static_cast<int>(v.field), 0, v.value);
+            break;
+        case LaterRowKind::Descriptions:
+            for (int language = 0; language < ProgramRecord::kLanguages; ++language)
+                if (program.number(PF::DescriptionActive, language) == 1)
+                    for (PF f : descriptionFields())
+                        add(programLayout().field(static_cast<int>(f)).padElement,
+                            RecordSide::Program, static_cast<int>(f), language,
+                            program.text(f, language));
+            break;
+        case LaterRowKind::Association:
+            blockActive = program.number(row.field) == 1;
+            break;
+        case LaterRowKind::MemberText:
+            if (blockActive)
+                add(element, row.side, row.field, 0, program.text(row.field));
+            break;
+        default: // tags, fixed texts, Y/N flags and the elements no record holds
+            break;
+        }
+    }
+    return out;
+}
+
 } // namespace brevaro

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pad/PadVersion.h"
 #include "records/CompanyRecord.h"
 #include "records/ProgramRecord.h"
 
@@ -23,5 +24,9 @@ struct PadWrittenValue {
 // Fixed texts (the master version block, Y/N flags other than Has_Expire_Info) are left out.
 std::vector<PadWrittenValue> padWrittenValues(const CompanyRecord& company,
                                               const ProgramRecord& program);
+// The same for the document of a version; for 3.11 and 4.0 the systems, languages and category
+// class are the tokens written, and the expiry has its seven elements.
+std::vector<PadWrittenValue> padWrittenValues(const CompanyRecord& company,
+                                              const ProgramRecord& program, PadVersion version);
 
 } // namespace brevaro

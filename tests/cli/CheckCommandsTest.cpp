@@ -85,6 +85,27 @@ TEST(CliCheck, ErrorsGiveStatusThreeAndOneLineEach) {
     EXPECT_TRUE(first[u"message"_s].toString().contains(u"U+0001"_s));
 }
 
+// --format chooses the version that pad writes and check checks; another text is a usage error.
+TEST(CliCheck, FormatChoosesTheVersion) {
+    TempHome t;
+    storeClean(t);
+    CompanyRecord company = cleanCompany();
+    company.setText(CompanyField::CompanyWebSiteURL, u"https://www.smith.example");
+    RecordStore(t.home()).writeCompany(1, company);
+    const CliResult v311 = run(t, "check", "-c", "1", "-p", "1", "--format", "3.11");
+    EXPECT_EQ(v311.status, 0);
+    EXPECT_TRUE(v311.out.contains("warning\tCompany_WebSite_URL")) << v311.out.toStdString();
+    EXPECT_FALSE(run(t, "check", "-c", "1", "-p", "1", "--format", "4.0")
+                     .out.contains("Company_WebSite_URL"));
+    EXPECT_TRUE(run(t, "pad", "-c", "1", "-p", "1", "--format", "4.0")
+                    .out.contains("<MASTER_PAD_VERSION>4.0</MASTER_PAD_VERSION>"));
+    for (const char* command : {"pad", "check"}) {
+        const CliResult bad = run(t, command, "-c", "1", "-p", "1", "--format", "2.0");
+        EXPECT_EQ(bad.status, 1);
+        EXPECT_TRUE(bad.err.contains(u"--format takes 1.15, 3.11 or 4.0"_s)) << command;
+    }
+}
+
 // pad --check writes nothing when the check finds errors, and otherwise the same bytes as pad.
 TEST(CliCheck, PadWithCheckRefusesErrorsOnly) {
     TempHome t;

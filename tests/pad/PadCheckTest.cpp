@@ -279,3 +279,57 @@ TEST(PadCheck, FindingsCarryTheFieldAndACutValue) {
         3);
     EXPECT_TRUE(checkPad(company, program).front().value.contains(u"x\x01 tail"_s));
 }
+
+// The later versions are checked against their own rules, and the traps their rules set are
+// said in words.
+TEST(PadCheck, LaterVersionsSayTheirTrapsInWords) {
+    struct LaterCase {
+        const char* name;
+        PadVersion version;
+        Change change;
+        Severity severity;
+        const char* element;
+        const char* says;
+    };
+    const LaterCase cases[] = {
+        {"linux package", PadVersion::V4_0,
+         program(PF::PrimaryDownloadURL, u"https://s.example/tidy_1.0_amd64.deb"),
+         Severity::Warning, "Primary_Download_URL", "ends in .deb"},
+        {"letter outside latin-1", PadVersion::V4_0,
+         program(PF::ApplicationInfoURL, u"https://s.example/\u0160koda"), Severity::Warning,
+         "Application_Info_URL", "https://s.example/%C5%A0koda"},
+        {"trailing line break", PadVersion::V4_0, program(PF::CharDesc2000, u"Tidy notes.\r\n"),
+         Severity::Warning, "Char_Desc_2000", "ends with a line break"},
+        {"old windows", PadVersion::V3_11, flag(PF::OSSupported, 1, 1), Severity::Note,
+         "Program_OS_Support",
+         "\"Win95\" has no token in the published list and is written as "
+         "\"WinOther\""},
+        {"windows 10 and 11", PadVersion::V4_0, flag(PF::OSSupported, 1, 3), Severity::Note,
+         "Program_OS_Support", "no token for Windows 10 or 11"},
+        {"https in 3.11", PadVersion::V3_11,
+         company(CF::CompanyWebSiteURL, u"https://smith.example"), Severity::Warning,
+         "Company_WebSite_URL", "http"},
+    };
+    for (const LaterCase& c : cases) {
+        SCOPED_TRACE(c.name);
+        CompanyRecord company = cleanCompany();
+        ProgramRecord program = cleanProgram();
+        c.change(company, program);
+        const auto all = checkPad(company, program, c.version);
+        const auto found = std::find_if(all.begin(), all.end(), [&](const PadFinding& f) {
+            return f.element == QLatin1String(c.element) && f.severity == c.severity &&
+                   f.message.contains(QString::fromUtf8(c.says));
+        });
+        EXPECT_NE(found, all.end()) << describe(all).toStdString();
+        EXPECT_FALSE(hasErrors(all));
+    }
+    // What 4.0 takes: https addresses, and no note on the 1.15 categories element.
+    ProgramRecord program = cleanProgram();
+    CompanyRecord company = cleanCompany();
+    company.setText(CF::CompanyWebSiteURL, u"https://smith.example");
+    const auto v40 = checkPad(company, program, PadVersion::V4_0);
+    EXPECT_TRUE(notNotes(v40).empty()) << describe(v40).toStdString();
+    EXPECT_TRUE(std::none_of(v40.begin(), v40.end(), [](const PadFinding& f) {
+        return f.element == u"Program_Categories"_s;
+    }));
+}

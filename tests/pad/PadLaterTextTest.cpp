@@ -115,7 +115,7 @@ TEST(PadLaterText, MappedValuesAreFromThePublishedLists) {
         p.setText(PF::ExpireCount, u"30");
         QXmlStreamReader reader(CreatePADText(fullCompany(), p, PadVersion::V4_0));
         const QStringList derived = {u"MASTER_PAD_VERSION"_s, u"Has_Expire_Info"_s,
-                                     u"Expire_Based_On"_s, u"Expire_Count"_s,
+                                     u"Expire_Based_On"_s,    u"Expire_Count"_s,
                                      u"Program_OS_Support"_s, u"Program_Language"_s};
         int seen = 0;
         while (!reader.atEnd()) {
