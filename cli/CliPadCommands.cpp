@@ -133,6 +133,8 @@ int importCommand(CliContext& ctx, const QStringList& words) {
             printed += QStringLiteral("%1\t%2\n")
                            .arg(s.state().CurrentCompanyNo)
                            .arg(s.state().CurrentProgramNo);
+            for (const QString& line : s.pad().notKeptByImport())
+                ctx.warn(QStringLiteral("%1: %2").arg(files[i], line));
             done = i + 1;
             ctx.failOnMessages();
         } catch (CliError& e) {

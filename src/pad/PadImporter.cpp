@@ -2,6 +2,7 @@
 
 #include "AppVersion.h"
 #include "pad/PadImportTarget.h"
+#include "pad/PadLayout.h"
 #include "pad/PadText.h"
 #include "pad/PadXmlText.h"
 #include "platform/Prompts.h"
@@ -13,6 +14,7 @@
 #include <QFile>
 #include <QHash>
 #include <QRegularExpression>
+#include <algorithm>
 
 namespace brevaro {
 
@@ -25,6 +27,12 @@ QStringView trimmed(QStringView s) {
     while (e > b && s[e - 1] == u' ')
         --e;
     return s.sliced(b, e - b);
+}
+
+// A left-out part as the report quotes it: its first 40 characters.
+QString excerptOf(const QString& text) {
+    const QString flat = QString(text).replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    return flat.size() > 40 ? flat.left(40) + QStringLiteral("...") : flat;
 }
 
 QString decodePad(const QByteArray& bytes) {
@@ -62,6 +70,52 @@ const QHash<QString, Target>& dispatchTable() {
         return t;
     }();
     return table;
+}
+
+// What the 1.15 record cannot keep of a value: the characters Windows-1252 has no place for,
+// the part beyond the field's width, the list items the 1.15 list does not have.
+void reportLoss(const Target& t, QStringView tag, const QString& value, int language,
+                const QString& stored, QStringList& notKept) {
+    const RecordField& field = layoutOf(t.side).field(t.field);
+    QString element = tag.mid(1, tag.size() - 2).toString();
+    if (t.action == PadImport::Description)
+        element += QStringLiteral(" (%1)").arg(trimBlanks(languageList().value(language)));
+    if (t.action == PadImport::FlagList) {
+        const QStringList& items = flagListItems(static_cast<ProgramField>(t.field));
+        QStringList dropped;
+        const QStringList given = value.split(u',', Qt::SkipEmptyParts);
+        for (const QString& token : given) {
+            const bool kept = std::any_of(items.begin(), items.end(), [&](const QString& item) {
+                return token.contains(trimBlanks(item));
+            });
+            if (!kept && !token.trimmed().isEmpty())
+                dropped << token.trimmed();
+        }
+        if (!dropped.isEmpty())
+            notKept << QStringLiteral("%1: %2 of %3 have no place in the PAD 1.15 list and were "
+                                      "left out: %4")
+                           .arg(element)
+                           .arg(dropped.size())
+                           .arg(given.size())
+                           .arg(dropped.join(QStringLiteral(", ")));
+        return;
+    }
+    if (!field.isText())
+        return;
+    const QString kept = stored.left(field.width);
+    const qsizetype lost = std::count_if(
+        kept.begin(), kept.end(), [](QChar c) { return c != u'?' && toWin1252Char(c) == '?'; });
+    if (lost > 0)
+        notKept << QStringLiteral("%1: %2 character(s) that Windows-1252 cannot hold became \"?\"")
+                       .arg(element)
+                       .arg(lost);
+    if (stored.size() > field.width)
+        notKept << QStringLiteral("%1: cut from %2 to %3 characters, the most a PAD 1.15 record "
+                                  "holds: \"%4\" was left out")
+                       .arg(element)
+                       .arg(stored.size())
+                       .arg(field.width)
+                       .arg(excerptOf(stored.mid(field.width)));
 }
 
 void dispatch(PadImportTarget& to, const Target& t, const QString& value, int language) {
@@ -159,7 +213,8 @@ void scanPadTags(
     }
 }
 
-bool ReadPADFile(PadImportTarget& target, Prompts& prompts, const QString& text) {
+bool ReadPADFile(PadImportTarget& target, Prompts& prompts, const QString& text,
+                 QStringList* notKept) {
     if (!trimBlanks(text).left(5).toLower().startsWith(QLatin1String("<?xml"))) {
         prompts.beep();
         prompts.message(QStringLiteral("Invalid PAD XML File"),
@@ -199,7 +254,15 @@ bool ReadPADFile(PadImportTarget& target, Prompts& prompts, const QString& text)
             target.importProgram(QStringLiteral("Unnamed program"));
             programMade = true;
         }
-        dispatch(target, *found, decodedXmlText(value), language);
+        const QString decoded = decodedXmlText(value);
+        // An appended text is measured whole, as the record keeps it.
+        const QString stored =
+            found->action == PadImport::Append
+                ? target.fieldText(found->side, found->field, 0) + decoded + QStringLiteral("\r\n")
+                : decoded;
+        dispatch(target, *found, decoded, language);
+        if (notKept)
+            reportLoss(*found, tag, decoded, language, stored, *notKept);
     });
     return true;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 
 namespace brevaro {
@@ -21,7 +22,10 @@ void scanPadTags(
     const std::function<void(QStringView tag, QStringView value, int language)>& visit);
 
 // Reads the text into the target's fields, creating or finding the company and creating the
-// program. False, after telling the user, when the text is not a PAD file.
-bool ReadPADFile(PadImportTarget& target, Prompts& prompts, const QString& text);
+// program. False, after telling the user, when the text is not a PAD file. What the 1.15
+// record cannot keep (characters, lengths, list items) is added to *notKept, one plain line
+// each; blocks it has no place for (affiliates, a site's own sections) are left out silently.
+bool ReadPADFile(PadImportTarget& target, Prompts& prompts, const QString& text,
+                 QStringList* notKept = nullptr);
 
 } // namespace brevaro

@@ -18,6 +18,7 @@
 #include "session/SessionNavigation.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QUrl>
 #include <algorithm>
@@ -184,7 +185,8 @@ bool PadCommands::goToField(const PadFinding& finding) {
 bool PadCommands::importPadFile(const QString& path) {
     beginImport();
     ImportOntoScreen target(m_core, m_companies, m_programs);
-    const bool accepted = ReadPADFile(target, m_core.prompts, readPadFileText(path));
+    m_notKept.clear();
+    const bool accepted = ReadPADFile(target, m_core.prompts, readPadFileText(path), &m_notKept);
     m_core.prompts.pumpEvents();
     finishImport(accepted);
     return accepted;
@@ -217,6 +219,12 @@ CommandResult PadCommands::ImportPAD() {
             return reportWriteFailure(m_core, QStringLiteral("The imported company and program"));
         return CommandResult::failed(store.errorString());
     }
+    // Nothing is lost without a word.
+    if (!m_notKept.isEmpty())
+        m_core.prompts.message(
+            QStringLiteral("Import PAD"),
+            QStringLiteral("%1 was imported, but a PAD 1.15 record cannot keep all of it:\n\n- %2")
+                .arg(QFileInfo(*chosen).fileName(), m_notKept.join(QStringLiteral("\n- "))));
     return CommandResult::done();
 }
 

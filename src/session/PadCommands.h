@@ -5,6 +5,7 @@
 #include "session/CommandResult.h"
 
 #include <QString>
+#include <QStringList>
 #include <vector>
 
 namespace brevaro {
@@ -32,6 +33,8 @@ public:
     CommandResult ImportPAD();
     // Imports one file and saves what it set; false when the file was refused.
     bool importPadFile(const QString& path);
+    // What the last import could not keep in the 1.15 records, one plain line each.
+    const QStringList& notKeptByImport() const { return m_notKept; }
     // The PAD check over what the screen shows now, saved or not.
     std::vector<PadFinding> checkScreen();
     // Takes the user to the field of a finding: its tab (and language) chosen, the field
@@ -52,6 +55,7 @@ private:
     ScreenTransfer& m_transfer;
     SessionNavigation& m_navigation;
     CompanyRecord m_shownBeforeImport;
+    QStringList m_notKept;
 };
 
 } // namespace brevaro

@@ -89,6 +89,39 @@ TEST_F(ImporterTest, RealFilesFromOtherTools) {
     EXPECT_EQ(p.text(ProgramField::ProgramVersion).left(3), u"2.7"_s);
 }
 
+// What a 1.15 record cannot keep is named, element by element; a file that fits names nothing.
+TEST_F(ImporterTest, WhatA115RecordCannotKeepIsReported) {
+    const QDir samples(QStringLiteral(BREVARO_SAMPLES));
+    const std::pair<const char*, QStringList> expected[] = {
+        {"dnGrep__dnGrep__pad.xml",
+         {u"Program_OS_Support: 6 of 7 have no place in the PAD 1.15 list"_s,
+          u"Program_Change_Info: 1 character(s) that Windows-1252 cannot hold became \"?\""_s,
+          u"Program_Change_Info: cut from 531 to 128 characters"_s}},
+        {"kalsky__FastWrite__pad.xml", {}},
+        {"sth__ups__PAD.xml",
+         {u"Program_OS_Support: 2 of 3 have no place in the PAD 1.15 list and were left out: "
+          u"Solaris, FreeBSD"_s,
+          u"Filename_Generic: cut from 15 to 10 characters, the most a PAD 1.15 record holds: "
+          u"\"ar.gz\" was left out"_s,
+          u"Distribution_Permissions: cut from 732 to 500 characters"_s}},
+        {"t-d-k__LibreCrypt__PAD.xml",
+         {u"Program_Language: 22 of 31"_s, u"Program_OS_Support: 14 of 17"_s,
+          u"Keywords (English): cut from 138 to 128 characters"_s}}};
+    for (const auto& [name, lines] : expected) {
+        SCOPED_TRACE(name);
+        ASSERT_TRUE(import(samples.filePath(QLatin1String(name))));
+        const QStringList& notKept = session->pad().notKeptByImport();
+        ASSERT_EQ(notKept.size(), lines.size()) << notKept.join(u'\n').toStdString();
+        for (qsizetype i = 0; i < lines.size(); ++i)
+            EXPECT_TRUE(notKept[i].startsWith(lines[i])) << notKept[i].toStdString();
+    }
+    // What was written by Brevaro itself comes back whole, and says so by saying nothing.
+    const QString doc = CreatePADText(fullCompany(), fullProgram()) + u"\r\n"_s;
+    ASSERT_TRUE(import(padFile(u"full.xml"_s, toWin1252(doc))));
+    EXPECT_TRUE(session->pad().notKeptByImport().isEmpty())
+        << session->pad().notKeptByImport().join(u'\n').toStdString();
+}
+
 TEST_F(ImporterTest, RefusedFilesChangeNothing) {
     for (const QByteArray& bytes :
          {QByteArray("hello <?xml"), QByteArray("\xEF\xBB\xBF<?xml version=\"1.0\"?>"),
@@ -195,6 +228,17 @@ TEST_F(ImporterTest, ImportCommandAsksForTheFile) {
     prompts.files.push_back(padFile(u"m.xml"_s, minimal("<Company_Name>Menu</Company_Name>")));
     command(ControlAction::ImportPAD);
     EXPECT_EQ(store.companyNames(), QStringList{u"Menu"_s});
+    EXPECT_TRUE(prompts.messages.isEmpty()); // everything was kept
+    // What the record cannot keep is shown once the import is saved.
+    prompts.files.push_back(padFile(
+        u"long.xml"_s, minimal("<Company_Name>Menu</Company_Name><Program_Name>Long</Program_Name>"
+                               "<Program_OS_Support>Linux,Haiku</Program_OS_Support>")));
+    command(ControlAction::ImportPAD);
+    ASSERT_EQ(prompts.messages.size(), 1);
+    EXPECT_TRUE(prompts.messages[0].contains(
+        u"long.xml was imported, but a PAD 1.15 record cannot keep all of it:\n\n- "
+        "Program_OS_Support: 1 of 2 have no place in the PAD 1.15 list and were left out: Haiku"_s))
+        << prompts.messages[0].toStdString();
 }
 
 // Element and language names are matched with their letter case: a lower-case tag is not the
