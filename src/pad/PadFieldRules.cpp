@@ -57,7 +57,20 @@ constexpr Rewrite kRewrites[] = {
     {"^URL ftp or http:// \\+ 2-120 characters",
      "should be an http:// or ftp:// address of the file, ending in .exe, .zip, .msi, .dmg, "
      "... (not a web page)"},
+    {"^URL http or https:// \\+ 2-120 characters with extension gif, jpg, or png$",
+     "should be an http:// or https:// address of an image ending in .gif, .jpg or .png"},
+    {"^URL http or https:// \\+ 2-120 characters with extension xml$",
+     "should be an http:// or https:// address ending in .xml"},
+    {"^URL http or https:// \\+ \\d+-120 characters", "should be an http:// or https:// address"},
+    {"^URL ftp or http or https:// \\+ 2-120 characters",
+     "should be an http://, https:// or ftp:// address of the file, ending in .exe, .zip, .msi, "
+     ".dmg, ... (not a web page)"},
+    {"^http or https:// \\+ 0-(\\d+) characters", "should be an http:// or https:// address"},
+    {"^0-(\\d+) letters/numbers/spaces$", "should be at most \\1 letters, digits and blanks"},
+    {"^(\\d+)-(\\d+) letters/numbers/spaces$",
+     "should be \\1 to \\2 characters of letters, digits and blanks"},
     {"^Decimal major and minor version", "should be a version like 1.15"},
+    {"^$", "should be a text the published pattern takes"},
 };
 
 QString adviceFor(const QString& meaning) {

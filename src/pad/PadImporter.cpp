@@ -4,6 +4,7 @@
 #include "pad/PadImportTarget.h"
 #include "pad/PadLayout.h"
 #include "pad/PadText.h"
+#include "pad/PadTokens.h"
 #include "pad/PadXmlText.h"
 #include "platform/Prompts.h"
 #include "platform/StringHelpers.h"
@@ -85,9 +86,12 @@ void reportLoss(const Target& t, QStringView tag, const QString& value, int lang
         QStringList dropped;
         const QStringList given = value.split(u',', Qt::SkipEmptyParts);
         for (const QString& token : given) {
-            const bool kept = std::any_of(items.begin(), items.end(), [&](const QString& item) {
-                return token.contains(trimBlanks(item));
-            });
+            const bool named = t.field == int(ProgramField::OSSupported) &&
+                               !systemOf115(token.trimmed()).isEmpty();
+            const bool kept =
+                named || std::any_of(items.begin(), items.end(), [&](const QString& item) {
+                    return token.contains(trimBlanks(item));
+                });
             if (!kept && !token.trimmed().isEmpty())
                 dropped << token.trimmed();
         }
@@ -130,8 +134,15 @@ void dispatch(PadImportTarget& to, const Target& t, const QString& value, int la
         return to.importProgram(value);
     case PadImport::FlagList: {
         const QStringList& items = flagListItems(static_cast<ProgramField>(t.field));
+        // A later version's token that names a 1.15 system exactly marks that system too.
+        QStringList named;
+        if (t.field == int(ProgramField::OSSupported))
+            for (const QString& token : value.split(u','))
+                named << systemOf115(token.trimmed());
         for (int i = 0; i < items.size(); ++i)
-            to.setFieldFlag(t.side, t.field, i, findFrom(1, value, trimBlanks(items[i])) > 0);
+            to.setFieldFlag(t.side, t.field, i,
+                            findFrom(1, value, trimBlanks(items[i])) > 0 ||
+                                named.contains(trimBlanks(items[i])));
         return;
     }
     case PadImport::CheckExact:
@@ -207,6 +218,9 @@ void scanPadTags(
             for (int i = 0; i < languages.size(); ++i)
                 if (inner == languages[i])
                     language = i;
+        // After the descriptions, a Keywords element is another block's (a 4.0 press release).
+        if (inner == u"/Program_Descriptions")
+            language = -1;
         if (!tag.isEmpty())
             visit(tag, value, language);
         p = b;
@@ -254,6 +268,8 @@ bool ReadPADFile(PadImportTarget& target, Prompts& prompts, const QString& text,
             target.importProgram(QStringLiteral("Unnamed program"));
             programMade = true;
         }
+        if (found->action == PadImport::Description && language < 0)
+            return;
         const QString decoded = decodedXmlText(value);
         // An appended text is measured whole, as the record keeps it.
         const QString stored =

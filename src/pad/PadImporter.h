@@ -16,7 +16,7 @@ QString readPadFileText(const QString& path);
 
 // Walks the tags of a PAD text the way the importer does (it is not an XML parser): calls
 // visit for every value element with its opening tag, its value and the description language
-// in force. Linear in the size of the text.
+// in force (-1 once the descriptions block has closed). Linear in the size of the text.
 void scanPadTags(
     QStringView text,
     const std::function<void(QStringView tag, QStringView value, int language)>& visit);

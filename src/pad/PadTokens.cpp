@@ -89,6 +89,14 @@ std::span<const OsMapping> osMappings() {
     return kOsMappings;
 }
 
+QString systemOf115(const QString& laterToken) {
+    QString found;
+    for (const OsMapping& m : kOsMappings)
+        if (m.exact && laterToken == QLatin1String(m.to))
+            found = QLatin1String(m.from);
+    return found;
+}
+
 QStringList laterOsTokens(const ProgramRecord& program, PadVersion version) {
     const QStringList& items = operatingSystemList();
     QStringList marked;

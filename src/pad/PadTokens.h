@@ -28,6 +28,11 @@ struct OsMapping {
 // The mapping of every 1.15 operating system, in the 1.15 list's order.
 std::span<const OsMapping> osMappings();
 
+// The 1.15 system a later token stands for exactly ("Win2000" is "Windows2000"; "Palm" the
+// latest Palm OS); empty for a catch-all such as "WinOther" and for tokens 1.15 has no system
+// for.
+QString systemOf115(const QString& laterToken);
+
 // The later tokens of the systems a record marks, each once, in the later list's order.
 QStringList laterOsTokens(const ProgramRecord& program, PadVersion version);
 // The later names of the languages a record marks, in the later list's order.

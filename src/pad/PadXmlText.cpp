@@ -85,8 +85,17 @@ QString decodedXmlText(QStringView value) {
     for (qsizetype i = 0; i < value.size(); ++i) {
         if (value[i] == u'&') {
             const Reference r = referenceAt(value, i);
-            if (r.length > 0 && r.character != 0) {
+            // An "&amp;" before what would read as a reference once decoded ("&amp;lt;" is
+            // the text "&lt;") stays, so that writing it again gives the same text.
+            const bool keep = r.character == u'&' &&
+                              knownReferenceAt(QString(u'&' + value.mid(i + r.length, 16)), 0);
+            if (r.length > 0 && r.character != 0 && !keep) {
                 out += QString::fromUcs4(&r.character, 1);
+                i += r.length - 1;
+                continue;
+            }
+            if (keep) {
+                out += value.mid(i, r.length);
                 i += r.length - 1;
                 continue;
             }
@@ -148,6 +157,7 @@ std::vector<PadFinding> xmlTextProblems(const PadWrittenValue& v) {
     static const QRegularExpression tag(QStringLiteral("</?[A-Za-z][^<>&]*>"));
     for (qsizetype i = 0; i < s.size(); ++i) {
         int kind = -1;
+        const qsizetype start = i; // a reference or a tag is skipped whole
         const QChar ch = s[i];
         if (ch == u'&') {
             const Reference r = referenceAt(s, i);
@@ -177,7 +187,7 @@ std::vector<PadFinding> xmlTextProblems(const PadWrittenValue& v) {
         if (kind < 0)
             continue;
         if (count[kind]++ == 0)
-            first[kind] = i;
+            first[kind] = start;
     }
     std::vector<PadFinding> out;
     for (int kind = 0; kind < KindCount; ++kind) {

@@ -75,7 +75,8 @@ void BannerStripWidget::fitToWidth() {
     };
     const bool banner = m_rotation.imageVisible && !m_rotation.imagePath.isEmpty();
     const int next = m_rotation.nextButtonVisible ? m_next->sizeHint().width() + spacing : 0;
-    const bool bannerFits = fits(next + (banner ? m_banner->width() : 0));
+    const int wanted = next + (banner ? m_banner->width() : 0);
+    const bool bannerFits = wanted == 0 || fits(wanted);
     m_next->setVisible(m_rotation.nextButtonVisible && bannerFits);
     m_banner->setVisible(banner && bannerFits);
     for (QWidget* logo : m_logos)

@@ -29,10 +29,26 @@ ProgramTabWidget::ProgramTabWidget(ControlBindingView& view, QWidget* parent)
 }
 
 void ProgramTabWidget::resizeEvent(QResizeEvent* event) {
-    const bool wide = event->size().width() >= twoColumnWidth(*this);
+    // The page scrolls sideways once it is narrower than its two columns, so the width that
+    // decides is that of the scroll area it shows in, which it watches from its first resize.
+    if (QWidget* view = parentWidget(); view && !m_watchingView) {
+        view->installEventFilter(this);
+        m_watchingView = true;
+    }
+    chooseColumns(parentWidget() ? parentWidget()->width() : event->size().width());
+    FormPageWidget::resizeEvent(event);
+}
+
+bool ProgramTabWidget::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == parentWidget() && event->type() == QEvent::Resize)
+        chooseColumns(parentWidget()->width());
+    return FormPageWidget::eventFilter(watched, event);
+}
+
+void ProgramTabWidget::chooseColumns(int width) {
+    const bool wide = width >= twoColumnWidth(*this);
     if (wide != m_twoColumns)
         arrange(wide);
-    FormPageWidget::resizeEvent(event);
 }
 
 void ProgramTabWidget::arrange(bool twoColumns) {

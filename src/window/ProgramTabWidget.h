@@ -20,13 +20,16 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void chooseColumns(int width);
     void arrange(bool twoColumns);
 
     QGridLayout* m_grid;
     QList<QWidget*> m_frames;
     bool m_twoColumns = true;
+    bool m_watchingView = false;
 };
 
 } // namespace brevaro

@@ -6,6 +6,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace brevaro {
 
@@ -25,8 +26,12 @@ QList<QTabBar*> TabRowsWidget::rows() const {
 }
 
 bool TabRowsWidget::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == &m_tabs && event->type() == QEvent::Resize &&
-        rowsNeeded() != std::max<qsizetype>(1, m_rows.size()))
+    const bool resized =
+        event->type() == QEvent::Resize && rowsNeeded() != std::max<qsizetype>(1, m_rows.size());
+    // A new font or style measures every tab again.
+    const bool remeasure =
+        event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
+    if (watched == &m_tabs && (resized || remeasure))
         arrange();
     return QWidget::eventFilter(watched, event);
 }
@@ -55,6 +60,8 @@ int TabRowsWidget::rowsNeeded() const {
 }
 
 void TabRowsWidget::arrange() {
+    const bool hadFocus = std::any_of(m_rows.begin(), m_rows.end(),
+                                      [](const QTabBar* row) { return row->hasFocus(); });
     qDeleteAll(m_rows);
     m_rows.clear();
     m_firstOfRow.clear();
@@ -64,7 +71,7 @@ void TabRowsWidget::arrange() {
         const int count = m_tabs.count();
         const int perRow = (count + rows - 1) / rows;
         for (int first = 0; first < count; first += perRow) {
-            auto* row = new QTabBar;
+            auto* row = new QTabBar(this);
             row->setObjectName(m_tabs.objectName() +
                                QStringLiteral("Row%1").arg(m_rows.size() + 1));
             row->setExpanding(true);
@@ -87,7 +94,17 @@ void TabRowsWidget::arrange() {
             m_firstOfRow << first;
         }
         showCurrent();
+        // The rows take the place of the tab widget's own bar in the keyboard order.
+        QWidget* previous = m_tabs.tabBar();
+        for (QTabBar* row : m_rows) {
+            QWidget::setTabOrder(previous, row);
+            previous = row;
+        }
     }
+    // Focus that was on a row goes to the row of the shown tab, the one nearest the page.
+    if (hadFocus)
+        (m_rows.isEmpty() ? m_tabs.tabBar() : m_column->itemAt(m_column->count() - 1)->widget())
+            ->setFocus();
     // QTabWidget places its bar and pages again only when resized.
     QResizeEvent again(m_tabs.size(), m_tabs.size());
     m_tabs.removeEventFilter(this);

@@ -3,6 +3,7 @@
 #include "pad/PadImporter.h"
 #include "pad/PadText.h"
 #include "platform/Win1252.h"
+#include "records/ValueLists.h"
 
 #include <QDir>
 
@@ -120,6 +121,42 @@ TEST_F(ImporterTest, WhatA115RecordCannotKeepIsReported) {
     ASSERT_TRUE(import(padFile(u"full.xml"_s, toWin1252(doc))));
     EXPECT_TRUE(session->pad().notKeptByImport().isEmpty())
         << session->pad().notKeptByImport().join(u'\n').toStdString();
+}
+
+// A 4.0 file Brevaro wrote comes back with every system whose token names a 1.15 system; the
+// catch-all tokens are named as not kept.
+TEST_F(ImporterTest, LaterSystemTokensMarkTheir115Systems) {
+    ProgramRecord program = fullProgram();
+    const QStringList& systems = operatingSystemList();
+    for (int i = 0; i < systems.size(); ++i) {
+        const QString name = systems[i].trimmed();
+        const bool marked = name == u"Windows2000"_s || name == u"Open VMS"_s ||
+                            name == u"Palm OS 2.0"_s || name == u"Win95"_s;
+        program.setNumber(ProgramField::OSSupported, marked ? 1 : 0, i);
+    }
+    const QString doc = CreatePADText(fullCompany(), program, PadVersion::V4_0);
+    ASSERT_TRUE(doc.contains(u"<Program_OS_Support>OpenVMS,Palm,Win2000,WinOther</"_s));
+    ASSERT_TRUE(import(padFile(u"v40.xml"_s, padFileBytes(doc, PadVersion::V4_0))));
+    ProgramRecord p;
+    store.readProgram(1, 1, p);
+    QStringList marked;
+    for (int i = 0; i < systems.size(); ++i)
+        if (p.number(ProgramField::OSSupported, i) != 0)
+            marked << systems[i].trimmed();
+    EXPECT_EQ(marked, (QStringList{u"Windows2000"_s, u"Palm OS 3.2"_s, u"Open VMS"_s}));
+    EXPECT_TRUE(session->pad().notKeptByImport().contains(
+        u"Program_OS_Support: 1 of 4 have no place in the PAD 1.15 list and were left out: "
+        "WinOther"_s))
+        << session->pad().notKeptByImport().join(u'\n').toStdString();
+    // The press release's keywords, after the descriptions, are not a language's.
+    QString withPress = doc;
+    withPress.replace(u"  <Keywords />\r\n  <Headline />"_s,
+                      u"  <Keywords>press words</Keywords>\r\n  <Headline />"_s);
+    ASSERT_NE(withPress, doc);
+    ASSERT_TRUE(import(padFile(u"press.xml"_s, padFileBytes(withPress, PadVersion::V4_0))));
+    store.readProgram(1, 2, p);
+    for (int language = 0; language < ProgramRecord::kLanguages; ++language)
+        EXPECT_NE(p.text(ProgramField::Keywords, language), u"press words"_s) << language;
 }
 
 TEST_F(ImporterTest, RefusedFilesChangeNothing) {

@@ -6,6 +6,7 @@
 #include "window/BannerStripWidget.h"
 #include "window/ControlBindingView.h"
 #include "window/LinkLabelWidget.h"
+#include "window/ProgramTabWidget.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -362,6 +363,26 @@ TEST_F(MainWindowTest, EveryTabIsVisibleAndNothingOverlapsAtAnySize) {
     auto* programPage = qobject_cast<QScrollArea*>(tabs()->widget(1));
     ASSERT_TRUE(programPage);
     EXPECT_EQ(programPage->verticalScrollBar()->maximum(), 0);
+    auto* program = qobject_cast<ProgramTabWidget*>(programPage->widget());
+    EXPECT_TRUE(program->inTwoColumns());
+    // Narrower again: one column, and the rows of tabs come back, before the fields in the
+    // keyboard order.
+    window->resize(733, 543);
+    QApplication::processEvents();
+    EXPECT_FALSE(program->inTwoColumns());
+    auto [row, shown] = shownTab(tabs()->tabText(1));
+    ASSERT_TRUE(row);
+    EXPECT_NE(row, tabs()->tabBar());
+    int rowAt = -1, fieldAt = -1, step = 0;
+    for (QWidget* w = window->nextInFocusChain(); w != window.get() && step < 2000;
+         w = w->nextInFocusChain(), ++step) {
+        if (w == row)
+            rowAt = step;
+        if (w == find(QStringLiteral("cboProgramName")) && fieldAt < 0)
+            fieldAt = step;
+    }
+    EXPECT_GE(rowAt, 0);
+    EXPECT_LT(rowAt, fieldAt);
 }
 
 TEST_F(MainWindowTest, HelpMenuAndLinksOpenTheirPages) {
