@@ -4,9 +4,7 @@
 #include "pad/PadLines.h"
 #include "pad/PadText.h"
 #include "pad/PadTokens.h"
-#include "platform/StringHelpers.h"
 #include "platform/Win1252.h"
-#include "records/ValueLists.h"
 
 namespace brevaro {
 
@@ -30,20 +28,6 @@ QString fixedValue(const char* element, PadVersion version) {
     if (name == QLatin1String("MASTER_PAD_EDITOR"))
         return QLatin1String(kAppTitle) + u' ' + versionText();
     return padStandardDescription();
-}
-
-void descriptions(PadLines& d, int indent, const ProgramRecord& p) {
-    const QStringList& languages = languageList();
-    for (int i = 0; i < ProgramRecord::kLanguages; ++i) {
-        if (p.number(PF::DescriptionActive, i) != 1)
-            continue;
-        const QString language = trimBlanks(languages.value(i));
-        d.line(indent, u'<' + language + u'>');
-        for (PF f : descriptionFields())
-            d.value(indent + 1, programLayout().field(static_cast<int>(f)).padElement,
-                    p.text(f, i));
-        d.line(indent, QStringLiteral("</") + language + u'>');
-    }
 }
 
 QString laterPadText(PadVersion version, const CompanyRecord& company,
@@ -84,7 +68,7 @@ QString laterPadText(PadVersion version, const CompanyRecord& company,
                                              : d.value(row.indent, v.element, v.value);
             break;
         case K::Descriptions:
-            descriptions(d, row.indent, program);
+            writeDescriptions(d, row.indent, program);
             break;
         case K::Association:
             blockActive = program.number(f) == 1;

@@ -45,7 +45,9 @@ void expiryBlock(Lines& d, int indent, const ProgramRecord& p) {
     d.value(indent, element(PF::ExpireOtherInfo), p.text(PF::ExpireOtherInfo));
 }
 
-void descriptionsBlock(Lines& d, int indent, const ProgramRecord& p) {
+} // namespace
+
+void writeDescriptions(PadLines& d, int indent, const ProgramRecord& p) {
     const QStringList& languages = languageList();
     for (int i = 0; i < ProgramRecord::kLanguages; ++i) {
         if (!isOne(p, PF::DescriptionActive, i))
@@ -57,8 +59,6 @@ void descriptionsBlock(Lines& d, int indent, const ProgramRecord& p) {
         d.line(indent, QStringLiteral("</") + language + u'>');
     }
 }
-
-} // namespace
 
 std::span<const ProgramField> descriptionFields() {
     static constexpr PF fields[] = {PF::Keywords,    PF::CharDesc45,  PF::CharDesc80,
@@ -156,7 +156,7 @@ QString CreatePADText(const CompanyRecord& company, const ProgramRecord& program
             expiryBlock(d, row.indent, program);
             break;
         case PadRowKind::Descriptions:
-            descriptionsBlock(d, row.indent, program);
+            writeDescriptions(d, row.indent, program);
             break;
         case PadRowKind::Association:
             blockActive = isOne(program, f);

@@ -21,6 +21,9 @@ QString joinedFlagTexts(const ProgramRecord& program, ProgramField field, const 
 // "Days", "Uses" or "Either/Or" for the highest of the first three expiry flags set, else empty.
 QString expireBasedOnCaption(const ProgramRecord& program);
 
+class PadLines;
+// One block per active language, each with its six description elements.
+void writeDescriptions(PadLines& d, int indent, const ProgramRecord& program);
 // The six description fields of a language, in document order.
 std::span<const ProgramField> descriptionFields();
 // The list items that the flags of OSSupported or LanguageSupported stand for.
