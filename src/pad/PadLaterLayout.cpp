@@ -1,5 +1,6 @@
 #include "pad/PadLaterLayout.h"
 
+#include "pad/PadLayout.h"
 #include "records/CompanyRecord.h"
 #include "records/ProgramRecord.h"
 
@@ -177,6 +178,10 @@ constexpr auto kRows = std::to_array<LaterPadRow>({
 
 std::span<const LaterPadRow> laterPadRows() {
     return kRows;
+}
+
+const char* elementOf(const LaterPadRow& row) {
+    return row.element ? row.element : layoutOf(row.side).field(row.field).padElement;
 }
 
 bool inVersion(const LaterPadRow& row, PadVersion version) {

@@ -39,6 +39,8 @@ struct LaterPadRow {
 
 // The rows of a 3.11 or 4.0 document.
 std::span<const LaterPadRow> laterPadRows();
+// The element a row writes: its own, or that of its record field.
+const char* elementOf(const LaterPadRow& row);
 // Whether a row belongs to the document of version.
 bool inVersion(const LaterPadRow& row, PadVersion version);
 

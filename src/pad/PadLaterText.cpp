@@ -17,10 +17,6 @@ bool flagSet(const ProgramRecord& p, PF f, int i = 0) {
     return p.number(f, i) != 0;
 }
 
-const char* elementOf(const LaterPadRow& row) {
-    return row.element ? row.element : layoutOf(row.side).field(row.field).padElement;
-}
-
 QString fixedValue(const char* element, PadVersion version) {
     const QLatin1String name(element);
     if (name == QLatin1String("MASTER_PAD_VERSION"))

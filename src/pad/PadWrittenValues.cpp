@@ -81,8 +81,7 @@ std::vector<PadWrittenValue> padWrittenValues(const CompanyRecord& company,
     for (const LaterPadRow& row : laterPadRows()) {
         if (!inVersion(row, version))
             continue;
-        const char* element =
-            row.element ? row.element : layoutOf(row.side).field(row.field).padElement;
+        const char* element = elementOf(row);
         switch (row.kind) {
         case LaterRowKind::Value:
         case LaterRowKind::OsTokens:

@@ -79,8 +79,8 @@ void TabRowsWidget::arrange() {
             for (int i = first; i < std::min(count, first + perRow); ++i)
                 row->addTab(m_tabs.tabText(i));
             // A last tab that is never shown: the row's choice while the shown tab is on
-            // another row, so that no tab of this row looks chosen.
-            // A screen reader names the row by its chosen tab, so this one names the row.
+            // another row, so that no tab of this row looks chosen. A screen reader names a
+            // row by its chosen tab, so this one carries the row's name.
             const int none = row->addTab(QString());
             row->setTabVisible(none, false);
             row->setAccessibleTabName(
