@@ -2,6 +2,7 @@
 
 #include "controls/FieldLabels.h"
 #include "pad/PadCheck.h"
+#include "pad/PadSpelling.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -38,15 +39,21 @@ QJsonArray findingsJson(const std::vector<PadFinding>& findings) {
 int checkCommand(CliContext& ctx, const QStringList& words) {
     const CliArgs args(words,
                        {QStringLiteral("-c"), QStringLiteral("-p"), QStringLiteral("--format")},
-                       {QStringLiteral("--json")});
+                       {QStringLiteral("--json"), QStringLiteral("--no-spelling")});
     const PadVersion version = formatOption(args);
     if (!args.positional().isEmpty())
         throw CliError{1, QStringLiteral("unexpected argument %1").arg(args.positional().front())};
     EditingSession& s = ctx.readingSession();
     const int c = ctx.company(args.required(QStringLiteral("-c")));
     ctx.select(c, ctx.program(ctx.companyId(c), args.required(QStringLiteral("-p"))));
-    const std::vector<PadFinding> findings =
-        withFieldLabels(checkPad(s.company(), s.program(), version));
+    std::vector<PadFinding> found = checkPad(s.company(), s.program(), version);
+    // Spelling notes follow the check's own notes; dictionaries are read only here.
+    if (!args.has(QStringLiteral("--no-spelling"))) {
+        const auto checker = homeSpellChecker(s.store().home());
+        const auto notes = spellingFindings(s.company(), s.program(), version, *checker);
+        found.insert(found.end(), notes.begin(), notes.end());
+    }
+    const std::vector<PadFinding> findings = withFieldLabels(std::move(found));
     if (args.has(QStringLiteral("--json"))) {
         ctx.print(QString::fromUtf8(QJsonDocument(findingsJson(findings)).toJson()));
     } else {

@@ -44,7 +44,7 @@ TEST(CliCheck, CleanRecordsPassWithNotesOnly) {
     TempHome t;
     storeClean(t);
     const auto before = homeFiles(t);
-    const CliResult r = run(t, "check", "-c", "1", "-p", "Tidy Notes");
+    const CliResult r = run(t, "check", "-c", "1", "-p", "Tidy Notes", "--no-spelling");
     ASSERT_EQ(r.status, 0) << r.err.toStdString();
     const QStringList lines = QString::fromUtf8(r.out).split(u'\n', Qt::SkipEmptyParts);
     ASSERT_EQ(lines.size(), 1);
@@ -62,7 +62,7 @@ TEST(CliCheck, CleanRecordsPassWithNotesOnly) {
 TEST(CliCheck, ErrorsGiveStatusThreeAndOneLineEach) {
     TempHome t;
     storeClean(t, u"Smith\x01Sons");
-    const CliResult r = run(t, "check", "-c", "1", "-p", "1");
+    const CliResult r = run(t, "check", "-c", "1", "-p", "1", "--no-spelling");
     EXPECT_EQ(r.status, 3);
     const QStringList lines = QString::fromUtf8(r.out).split(u'\n', Qt::SkipEmptyParts);
     ASSERT_EQ(lines.size(), 2);
@@ -73,7 +73,7 @@ TEST(CliCheck, ErrorsGiveStatusThreeAndOneLineEach) {
     EXPECT_EQ(lines[0].count(u'\t'), 2);
     EXPECT_TRUE(lines[1].startsWith(u"note\t"_s));
 
-    const CliResult json = run(t, "check", "-c", "1", "-p", "1", "--json");
+    const CliResult json = run(t, "check", "-c", "1", "-p", "1", "--json", "--no-spelling");
     EXPECT_EQ(json.status, 3);
     const QJsonArray array = QJsonDocument::fromJson(json.out).array();
     ASSERT_EQ(array.size(), 2);
