@@ -1,6 +1,8 @@
 #include "window/ControlWidget.h"
 
+#include "pad/PadSpelling.h"
 #include "window/LinkLabelWidget.h"
+#include "window/SpellingLineEdit.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -71,7 +73,8 @@ QString controlAccessibleName(const ControlRow& row) {
 QWidget* createControlWidget(const ControlRow& r, const ControlState& s) {
     switch (r.widget) {
     case WidgetType::LineEdit: {
-        auto* e = new QLineEdit;
+        // A box of prose can underline its misspelt words.
+        auto* e = spellingLanguage(r.side, r.field, r.entry) ? new SpellingLineEdit : new QLineEdit;
         if (s.maxLength > 0)
             e->setMaxLength(s.maxLength);
         return e;

@@ -2,6 +2,7 @@
 
 #include "controls/Mnemonics.h"
 #include "keywords/KeywordSuggester.h"
+#include "pad/PadSpelling.h"
 #include "platform/HttpTransfer.h"
 #include "platform/StringHelpers.h"
 #include "session/BannerRotation.h"
@@ -19,6 +20,7 @@
 #include "window/PadCheckDialog.h"
 #include "window/PermissionsTabWidget.h"
 #include "window/ProgramTabWidget.h"
+#include "window/SpellingView.h"
 #include "window/SubmissionPluginLoader.h"
 #include "window/TabRowsWidget.h"
 #include "window/WebInfoTabWidget.h"
@@ -90,6 +92,8 @@ MainWindow::MainWindow(EditingSession& session, QWidget* parent)
         close();
     });
     m_view->repaintAll();
+    // Made after the widgets, so that it goes after them: their highlighters use its checker.
+    m_spelling = new SpellingView(*m_view, homeSpellChecker(session.store().home()), this);
     // 11000 by 8150 twips.
     resize(733, 543);
 }
@@ -252,7 +256,7 @@ void MainWindow::setCommandHandlers() {
     m_session.setCommandHandler(ControlAction::CheckPAD, [this] {
         // One findings window, checked again each time it is asked for.
         if (!m_check) {
-            m_check = new PadCheckDialog(m_session, this);
+            m_check = new PadCheckDialog(m_session, &m_spelling->checker(), this);
             m_check->setAttribute(Qt::WA_DeleteOnClose);
         } else {
             m_check->refresh();

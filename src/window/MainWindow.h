@@ -12,6 +12,7 @@ class ControlBindingView;
 class EditingSession;
 class HttpTransfer;
 class PadCheckDialog;
+class SpellingView;
 
 // The main window frmStart: a view over the editing session. Its widgets come from the
 // control table; the menus, the button bar, the banner strip, the nine tabs and the status
@@ -25,6 +26,7 @@ public:
     ControlBindingView& view() { return *m_view; }
     BannerRotation& banners() { return *m_banners; }
     BannerStripWidget& bannerStrip() { return *m_strip; }
+    SpellingView& spelling() { return *m_spelling; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -43,6 +45,7 @@ private:
     std::unique_ptr<HttpTransfer> m_http;
     BannerRotation* m_banners;
     BannerStripWidget* m_strip = nullptr;
+    SpellingView* m_spelling = nullptr;
     QPointer<PadCheckDialog> m_check;
     bool m_shutDown = false;
     bool m_shown = false;

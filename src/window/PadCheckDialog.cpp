@@ -1,5 +1,7 @@
 #include "window/PadCheckDialog.h"
 
+#include "controls/FieldLabels.h"
+#include "pad/PadSpelling.h"
 #include "session/EditingSession.h"
 
 #include <QDialogButtonBox>
@@ -47,9 +49,10 @@ QString sentence(const PadFinding& f) {
 
 } // namespace
 
-PadCheckDialog::PadCheckDialog(EditingSession& session, QWidget* parent)
+PadCheckDialog::PadCheckDialog(EditingSession& session, SpellChecker* spelling, QWidget* parent)
     : QDialog(parent)
-    , m_session(session) {
+    , m_session(session)
+    , m_spelling(spelling) {
     setObjectName(QStringLiteral("frmPadCheck"));
     setWindowTitle(QStringLiteral("Check PAD"));
     m_summary = new QLabel;
@@ -103,6 +106,16 @@ PadCheckDialog::PadCheckDialog(EditingSession& session, QWidget* parent)
 
 void PadCheckDialog::refresh() {
     m_findings = m_session.pad().checkScreen();
+    if (m_spelling) {
+        // The texts as the screen shows them, as the check itself reads them.
+        CompanyRecord company = m_session.company();
+        ProgramRecord program = m_session.program();
+        m_session.transfer().screenInto(RecordSide::Company, company);
+        m_session.transfer().screenInto(RecordSide::Program, program);
+        const auto notes =
+            withFieldLabels(spellingFindings(company, program, PadVersion::V1_15, *m_spelling));
+        m_findings.insert(m_findings.end(), notes.begin(), notes.end());
+    }
     m_list->clear();
     int errors = 0;
     int warnings = 0;

@@ -11,6 +11,7 @@ class QTreeWidget;
 namespace brevaro {
 
 class EditingSession;
+class SpellChecker;
 
 // The findings of the PAD check in a list: errors, warnings and notes with the field, where it
 // is and what to do. A double-click (or Enter) takes the user to the field; "Check Again"
@@ -18,7 +19,9 @@ class EditingSession;
 class PadCheckDialog : public QDialog {
     Q_OBJECT
 public:
-    explicit PadCheckDialog(EditingSession& session, QWidget* parent = nullptr);
+    // With a spell checker, the misspelt words of the texts are notes too.
+    explicit PadCheckDialog(EditingSession& session, SpellChecker* spelling = nullptr,
+                            QWidget* parent = nullptr);
 
     // Checks the screen again and shows the findings.
     void refresh();
@@ -28,6 +31,7 @@ private:
     void goTo(int row);
 
     EditingSession& m_session;
+    SpellChecker* m_spelling;
     QTreeWidget* m_list;
     QLabel* m_summary;
     QLabel* m_detail;
