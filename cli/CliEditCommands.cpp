@@ -2,6 +2,7 @@
 
 #include "platform/FileHelpers.h"
 #include "platform/StringHelpers.h"
+#include "records/ExtraFields.h"
 #include "records/RecordJson.h"
 
 namespace brevaro::cli {
@@ -40,6 +41,7 @@ struct Target {
     int entry = 0;
     int control = -1;
     FieldType type = FieldType::Text;
+    QString extra; // an extra field (ExtraFields.h) instead of a record field
 };
 
 Target resolve(EditingSession& s, const FieldAssignment& a, bool haveProgram) {
@@ -48,6 +50,16 @@ Target resolve(EditingSession& s, const FieldAssignment& a, bool haveProgram) {
     const int programField = programLayout().indexOf(a.name);
     if (a.name == QLatin1String("CompanyID"))
         throw CliError{2, QStringLiteral("CompanyID is kept by the program and cannot be set")};
+    if (const ExtraField* e = extraField(a.name); e && companyField < 0 && programField < 0) {
+        if (e->side == RecordSide::Program && !haveProgram)
+            throw CliError{2, QStringLiteral("%1 is a program field: give -p PROGRAM").arg(a.name)};
+        if (a.index >= 0)
+            throw CliError{2, QStringLiteral("%1 has no entries").arg(a.name)};
+        t.side = e->side;
+        t.extra = a.name;
+        t.control = controlOfExtra(t.side, t.extra);
+        return t;
+    }
     if (companyField < 0 && programField < 0)
         throw CliError{2, QStringLiteral("there is no field %1").arg(a.name)};
     if (companyField < 0 && !haveProgram)
@@ -81,9 +93,35 @@ int numberOf(const FieldAssignment& a) {
     return n;
 }
 
+// An extra field's value, checked against the field's kind and list, into its control or
+// straight into the record.
+void applyExtra(EditingSession& s, const Target& t, const FieldAssignment& a) {
+    FixedRecord& r =
+        t.side == RecordSide::Company ? static_cast<FixedRecord&>(s.company()) : s.program();
+    FixedRecord checked = r;
+    QString why;
+    if (!applyAssignment(checked, a, &why))
+        throw CliError{2, why};
+    const QString value = checked.laterValue(t.extra);
+    ScreenModel& screen = s.screen();
+    if (t.control < 0) {
+        r.setLaterValue(t.extra, value);
+        t.side == RecordSide::Company ? s.navigation().SetCompanyDirty()
+                                      : s.navigation().SetProgramDirty();
+    } else if (screen.at(t.control).kind == ControlKind::ListBox) {
+        const QStringList tokens = value.split(u',', Qt::SkipEmptyParts);
+        for (int i = 0; i < screen.at(t.control).items.size(); ++i)
+            screen.setItemSelected(t.control, i, tokens.contains(screen.at(t.control).items[i]));
+    } else {
+        screen.setText(t.control, value);
+    }
+}
+
 // Puts the value where a user would type or click it, so limits and marks apply alike.
 void apply(EditingSession& s, const Target& t, const FieldAssignment& a) {
     ScreenModel& screen = s.screen();
+    if (!t.extra.isEmpty())
+        return applyExtra(s, t, a);
     if (t.control < 0) {
         FixedRecord& r =
             t.side == RecordSide::Company ? static_cast<FixedRecord&>(s.company()) : s.program();

@@ -155,10 +155,18 @@ int controlOfField(RecordSide side, int field, int entry) {
     const auto& rows = mainWindowControls();
     for (std::size_t id = 0; id < rows.size(); ++id) {
         const ControlRow& r = rows[id];
-        if (r.side == side && r.field == field &&
+        if (r.side == side && r.field == field && field >= 0 &&
             (r.entry == entry || r.kind == ControlKind::ListBox))
             return static_cast<int>(id);
     }
+    return -1;
+}
+
+int controlOfExtra(RecordSide side, QStringView name) {
+    const auto& rows = mainWindowControls();
+    for (std::size_t id = 0; id < rows.size(); ++id)
+        if (rows[id].side == side && rows[id].extra == name)
+            return static_cast<int>(id);
     return -1;
 }
 

@@ -111,6 +111,7 @@ struct ControlRow {
     RecordSide side = RecordSide::None;
     int field = -1; // index into the record layout of side
     int entry = 0;  // entry of an array field
+    QString extra;  // or the extra field of side it holds (ExtraFields.h)
     int limit = 0;
     RecordSide marks = RecordSide::None;
     unsigned markOn = kMarkNever;
@@ -139,6 +140,8 @@ const QStringList& menuTitles();
 // The id (row) of the control that shows entry of a record field: for a list box, the list
 // itself; -1 when no control shows the field.
 int controlOfField(RecordSide side, int field, int entry = 0);
+// The id of the control that shows an extra field; -1 when none does.
+int controlOfExtra(RecordSide side, QStringView name);
 
 // The controls of the expiry group, enabled only while the product expires.
 bool isExpiryGroup(const ControlRow& row);

@@ -19,6 +19,8 @@ public:
     virtual QString fieldText(RecordSide side, int field, int entry) const = 0;
     virtual void setFieldText(RecordSide side, int field, int entry, const QString& value) = 0;
     virtual void setFieldFlag(RecordSide side, int field, int entry, bool on) = 0;
+    // A field beyond the 1.15 record (see ExtraFields.h), by its name.
+    virtual void setExtraValue(RecordSide side, const QString& name, const QString& value) = 0;
 };
 
 } // namespace brevaro

@@ -2,6 +2,7 @@
 
 #include "AppVersion.h"
 #include "pad/PadImportTarget.h"
+#include "pad/PadLaterLayout.h"
 #include "pad/PadLayout.h"
 #include "pad/PadText.h"
 #include "pad/PadTokens.h"
@@ -10,6 +11,7 @@
 #include "platform/StringHelpers.h"
 #include "platform/TextFiles.h"
 #include "platform/Win1252.h"
+#include "records/ExtraFields.h"
 #include "records/ValueLists.h"
 
 #include <QFile>
@@ -73,17 +75,32 @@ const QHash<QString, Target>& dispatchTable() {
     return table;
 }
 
+// Whether the 3.11 and 4.0 documents write a record field.
+bool writtenByLaterVersions(RecordSide side, int field) {
+    if (side == RecordSide::Program &&
+        std::find(descriptionFields().begin(), descriptionFields().end(),
+                  static_cast<ProgramField>(field)) != descriptionFields().end())
+        return true;
+    for (const LaterPadRow& row : laterPadRows())
+        if (row.side == side && row.field == field && row.kind != LaterRowKind::Descriptions)
+            return true;
+    return side == RecordSide::Program && field == int(ProgramField::ExpireOtherInfo);
+}
+
 // What the 1.15 record cannot keep of a value: the characters Windows-1252 has no place for,
 // the part beyond the field's width, the list items the 1.15 list does not have.
 void reportLoss(const Target& t, QStringView tag, const QString& value, int language,
-                const QString& stored, QStringList& notKept) {
+                const QString& stored, bool listsKept, QStringList& notKept) {
     const RecordField& field = layoutOf(t.side).field(t.field);
     QString element = tag.mid(1, tag.size() - 2).toString();
     if (t.action == PadImport::Description)
         element += QStringLiteral(" (%1)").arg(trimBlanks(languageList().value(language)));
     if (t.action == PadImport::FlagList) {
         const QStringList& items = flagListItems(static_cast<ProgramField>(t.field));
-        QStringList dropped;
+        const QStringList& later = t.field == int(ProgramField::OSSupported)
+                                       ? publishedList(PublishedList::Systems40)
+                                       : publishedList(PublishedList::Languages);
+        QStringList keptLater, dropped;
         const QStringList given = value.split(u',', Qt::SkipEmptyParts);
         for (const QString& token : given) {
             const bool named = t.field == int(ProgramField::OSSupported) &&
@@ -92,15 +109,25 @@ void reportLoss(const Target& t, QStringView tag, const QString& value, int lang
                 named || std::any_of(items.begin(), items.end(), [&](const QString& item) {
                     return token.contains(trimBlanks(item));
                 });
-            if (!kept && !token.trimmed().isEmpty())
-                dropped << token.trimmed();
+            if (kept || token.trimmed().isEmpty())
+                continue;
+            (listsKept && later.contains(token.trimmed()) ? keptLater : dropped) << token.trimmed();
         }
+        if (!keptLater.isEmpty())
+            notKept << QStringLiteral("%1: %2 of %3 have no place in the PAD 1.15 list and are "
+                                      "kept for PAD 3.11 and 4.0 only: %4")
+                           .arg(element)
+                           .arg(keptLater.size())
+                           .arg(given.size())
+                           .arg(keptLater.join(QStringLiteral(", ")));
         if (!dropped.isEmpty())
-            notKept << QStringLiteral("%1: %2 of %3 have no place in the PAD 1.15 list and were "
-                                      "left out: %4")
+            notKept << QStringLiteral("%1: %2 of %3 have no place in %4 and were left out: %5")
                            .arg(element)
                            .arg(dropped.size())
                            .arg(given.size())
+                           .arg(listsKept
+                                    ? QStringLiteral("the PAD 1.15 list nor in the later ones")
+                                    : QStringLiteral("the PAD 1.15 list"))
                            .arg(dropped.join(QStringLiteral(", ")));
         return;
     }
@@ -109,17 +136,136 @@ void reportLoss(const Target& t, QStringView tag, const QString& value, int lang
     const QString kept = stored.left(field.width);
     const qsizetype lost = std::count_if(
         kept.begin(), kept.end(), [](QChar c) { return c != u'?' && toWin1252Char(c) == '?'; });
+    // The whole text is kept beside the record: the window has it, and the later versions
+    // write it where they have the element; a 1.15 file has what the record holds.
+    const QString whole = writtenByLaterVersions(t.side, t.field)
+                              ? QStringLiteral("PAD 3.11 and 4.0 files hold the whole text")
+                              : QStringLiteral("the whole text is kept with the program");
     if (lost > 0)
-        notKept << QStringLiteral("%1: %2 character(s) that Windows-1252 cannot hold became \"?\"")
+        notKept << QStringLiteral("%1: %2 character(s) that Windows-1252 cannot hold are \"?\" in "
+                                  "PAD 1.15 files; %3")
                        .arg(element)
-                       .arg(lost);
+                       .arg(lost)
+                       .arg(whole);
     if (stored.size() > field.width)
-        notKept << QStringLiteral("%1: cut from %2 to %3 characters, the most a PAD 1.15 record "
-                                  "holds: \"%4\" was left out")
+        notKept << QStringLiteral("%1: %2 characters, of which a PAD 1.15 file holds the first %3 "
+                                  "(\"%4\" is left out there); %5")
                        .arg(element)
                        .arg(stored.size())
                        .arg(field.width)
-                       .arg(excerptOf(stored.mid(field.width)));
+                       .arg(excerptOf(stored.mid(field.width)), whole);
+}
+
+// The elements of the later versions that go to extra fields, by opening tag: the tags of the
+// later layout's extra rows, and its systems, languages and class.
+struct ExtraTarget {
+    RecordSide side = RecordSide::None;
+    QString name;
+    bool listed = false; // a token list that the 1.15 record also takes, in its own way
+};
+
+const QHash<QString, ExtraTarget>& extraTargets() {
+    static const QHash<QString, ExtraTarget> table = [] {
+        QHash<QString, ExtraTarget> t;
+        for (const LaterPadRow& row : laterPadRows()) {
+            const QString tag = u'<' + QLatin1String(elementOf(row)) + u'>';
+            if (row.kind == LaterRowKind::Extra)
+                t.insert(tag, {row.side, QLatin1String(row.extra), false});
+            else if (row.kind == LaterRowKind::OsTokens || row.kind == LaterRowKind::Languages ||
+                     row.kind == LaterRowKind::CategoryClass)
+                t.insert(tag, {RecordSide::Program, QLatin1String(elementOf(row)),
+                               row.kind != LaterRowKind::CategoryClass});
+        }
+        return t;
+    }();
+    return table;
+}
+
+// The 1.15 list items a list element marks: those its text names, and for the systems those
+// a later token names exactly.
+QList<bool> markedItems(ProgramField f, const QString& value) {
+    const QStringList& items = flagListItems(f);
+    QStringList named;
+    if (f == ProgramField::OSSupported)
+        for (const QString& token : value.split(u','))
+            named << systemOf115(token.trimmed());
+    QList<bool> marks;
+    for (const QString& item : items)
+        marks << (findFrom(1, value, trimBlanks(item)) > 0 || named.contains(trimBlanks(item)));
+    return marks;
+}
+
+// The later tokens of a list element of a version 1 file that names more than the 1.15 list
+// holds: the tokens of the 1.15 items it marks, and those of the later list it names. Empty
+// when the 1.15 list holds everything, so that the later versions follow the 1.15 list.
+QString laterTokensOfOldList(ProgramField f, const QString& value) {
+    ProgramRecord marked;
+    const QList<bool> marks = markedItems(f, value);
+    for (int i = 0; i < marks.size(); ++i)
+        marked.setNumber(f, marks[i] ? -1 : 0, i);
+    QStringList tokens = f == ProgramField::OSSupported ? laterOsTokens(marked, PadVersion::V4_0)
+                                                        : laterLanguageTokens(marked);
+    const QStringList& list = f == ProgramField::OSSupported
+                                  ? publishedList(PublishedList::Systems40)
+                                  : publishedList(PublishedList::Languages);
+    bool more = false;
+    for (const QString& token : value.split(u',')) {
+        const QString t = token.trimmed();
+        if (list.contains(t) && !tokens.contains(t)) {
+            tokens << t;
+            more = true;
+        }
+    }
+    if (!more)
+        return QString();
+    std::sort(tokens.begin(), tokens.end(), [&](const QString& a, const QString& b) {
+        return list.indexOf(a) < list.indexOf(b);
+    });
+    return tokens.join(u',');
+}
+
+// The later tokens of a list element of a later file: those of the later list, and for a
+// value that is a 1.15 item (an older later version's name) that item's token; in the later
+// list's order.
+QString laterTokensOfLaterList(ProgramField f, const QString& value) {
+    const bool systems = f == ProgramField::OSSupported;
+    const QStringList& list =
+        systems ? publishedList(PublishedList::Systems40) : publishedList(PublishedList::Languages);
+    QStringList tokens;
+    for (const QString& token : value.split(u',')) {
+        QString t = token.trimmed();
+        if (!list.contains(t) && systems)
+            for (const OsMapping& m : osMappings())
+                if (t == QLatin1String(m.from))
+                    t = QLatin1String(m.to);
+        if (list.contains(t) && !tokens.contains(t))
+            tokens << t;
+    }
+    std::sort(tokens.begin(), tokens.end(), [&](const QString& a, const QString& b) {
+        return list.indexOf(a) < list.indexOf(b);
+    });
+    return tokens.join(u',');
+}
+
+// Keeps in value only what the published list of an extra field has (a field without a list
+// keeps everything); returns what it left out, joined by ", ".
+QString keepListed(const QString& name, QString& value) {
+    const ExtraField* field = extraField(name);
+    const QStringList choices = field ? extraFieldChoices(*field) : QStringList();
+    if (choices.isEmpty())
+        return QString();
+    QStringList kept, dropped;
+    const QStringList given = field->kind == ExtraKind::TokenList
+                                  ? value.split(u',', Qt::SkipEmptyParts)
+                                  : QStringList{value};
+    for (const QString& token : given) {
+        const QString t = token.trimmed();
+        if (t.isEmpty())
+            continue;
+        (choices.contains(t) && !kept.contains(t) ? kept : dropped) << t;
+    }
+    value = kept.join(u',');
+    return dropped.join(QStringLiteral(", "));
 }
 
 void dispatch(PadImportTarget& to, const Target& t, const QString& value, int language) {
@@ -133,16 +279,9 @@ void dispatch(PadImportTarget& to, const Target& t, const QString& value, int la
     case PadImport::ProgramName:
         return to.importProgram(value);
     case PadImport::FlagList: {
-        const QStringList& items = flagListItems(static_cast<ProgramField>(t.field));
-        // A later version's token that names a 1.15 system exactly marks that system too.
-        QStringList named;
-        if (t.field == int(ProgramField::OSSupported))
-            for (const QString& token : value.split(u','))
-                named << systemOf115(token.trimmed());
-        for (int i = 0; i < items.size(); ++i)
-            to.setFieldFlag(t.side, t.field, i,
-                            findFrom(1, value, trimBlanks(items[i])) > 0 ||
-                                named.contains(trimBlanks(items[i])));
+        const QList<bool> marks = markedItems(static_cast<ProgramField>(t.field), value);
+        for (int i = 0; i < marks.size(); ++i)
+            to.setFieldFlag(t.side, t.field, i, marks[i]);
         return;
     }
     case PadImport::CheckExact:
@@ -236,12 +375,16 @@ bool ReadPADFile(PadImportTarget& target, Prompts& prompts, const QString& text,
         return false;
     }
     const auto& table = dispatchTable();
+    const auto& extras = extraTargets();
     // A file that names no company or no program must not write its values over the company
     // or program the window happens to show: it gets one of its own, named after the author.
     bool companyNamed = false, programNamed = false;
     QString first, last;
+    bool later = false; // a file of version 2 or later: its lists hold the later tokens
     scanPadTags(text, [&](QStringView tag, QStringView value, int) {
-        if (tag == u"<Company_Name>" && !value.isEmpty())
+        if (tag == u"<MASTER_PAD_VERSION>")
+            later = !trimmed(value).startsWith(u"1.");
+        else if (tag == u"<Company_Name>" && !value.isEmpty())
             companyNamed = true;
         else if (tag == u"<Program_Name>" && !value.isEmpty())
             programNamed = true;
@@ -256,8 +399,39 @@ bool ReadPADFile(PadImportTarget& target, Prompts& prompts, const QString& text,
     }
     bool programMade = programNamed;
     scanPadTags(text, [&](QStringView tag, QStringView value, int language) {
-        const auto found = table.constFind(tag.toString());
-        if (found == table.constEnd())
+        const QString tagText = tag.toString();
+        const auto extra = extras.constFind(tagText);
+        const bool pressKeywords = tag == u"<Keywords>" && language < 0;
+        bool listsKept = false;
+        // A value with a tag in it is a block the scan took for an element (an empty press
+        // release block, say): no extra field takes it.
+        if (extra != extras.constEnd() && (tag != u"<Keywords>" || pressKeywords) &&
+            !value.contains(u'<')) {
+            if (!programMade && extra->side == RecordSide::Program) {
+                target.importProgram(QStringLiteral("Unnamed program"));
+                programMade = true;
+            }
+            QString kept = decodedXmlText(value);
+            QString dropped;
+            const ProgramField listField = extra->name == QLatin1String("Program_OS_Support")
+                                               ? ProgramField::OSSupported
+                                               : ProgramField::LanguageSupported;
+            if (extra->listed)
+                kept = later ? laterTokensOfLaterList(listField, kept)
+                             : laterTokensOfOldList(listField, kept);
+            else
+                dropped = keepListed(extra->name, kept);
+            listsKept = extra->listed && !kept.isEmpty();
+            if (!extra->listed || !kept.isEmpty())
+                target.setExtraValue(extra->side, extra->name, kept);
+            // What the lists drop is said with the 1.15 list's report below.
+            if (notKept && !dropped.isEmpty() && !extra->listed)
+                notKept->append(QStringLiteral("%1: not in the published list of PAD 4.0, so left "
+                                               "out of the later versions: %2")
+                                    .arg(tagText.mid(1, tagText.size() - 2), dropped));
+        }
+        const auto found = table.constFind(tagText);
+        if (found == table.constEnd() || pressKeywords)
             return;
         const bool names =
             found->action == PadImport::CompanyName || found->action == PadImport::ProgramName;
@@ -278,7 +452,7 @@ bool ReadPADFile(PadImportTarget& target, Prompts& prompts, const QString& text,
                 : decoded;
         dispatch(target, *found, decoded, language);
         if (notKept)
-            reportLoss(*found, tag, decoded, language, stored, *notKept);
+            reportLoss(*found, tag, decoded, language, stored, listsKept, *notKept);
     });
     return true;
 }

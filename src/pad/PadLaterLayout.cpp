@@ -29,8 +29,9 @@ constexpr LaterPadRow company(int indent, const char* element, CF f) {
 constexpr LaterPadRow program(int indent, const char* element, PF f, K kind = K::Value) {
     return {kind, indent, element, RecordSide::Program, static_cast<int>(f)};
 }
-constexpr LaterPadRow unset(int indent, const char* element) {
-    return {K::Unset, indent, element, RecordSide::None, -1, true};
+constexpr LaterPadRow extra(int indent, const char* element, RecordSide side,
+                            const char* name = nullptr) {
+    return {K::Extra, indent, element, side, -1, true, name ? name : element};
 }
 // An extension block and its members, written as 1.15 writes them: their elements are the
 // record fields' own.
@@ -75,11 +76,11 @@ constexpr auto kRows = std::to_array<LaterPadRow>({
     company(3, "General_Phone", CF::GeneralPhone),
     company(3, "Fax_Phone", CF::FaxPhone),
     close(2, "Support_Info"),
-    unset(2, "GooglePlusPage"),
-    unset(2, "LinkedinPage"),
-    unset(2, "TwitterCompanyPage"),
-    unset(2, "FacebookCompanyPage"),
-    unset(2, "CompanyStorePage"),
+    extra(2, "GooglePlusPage", RecordSide::Company),
+    extra(2, "LinkedinPage", RecordSide::Company),
+    extra(2, "TwitterCompanyPage", RecordSide::Company),
+    extra(2, "FacebookCompanyPage", RecordSide::Company),
+    extra(2, "CompanyStorePage", RecordSide::Company),
     close(1, "Company_Info"),
 
     open(1, "Program_Info"),
@@ -108,8 +109,8 @@ constexpr auto kRows = std::to_array<LaterPadRow>({
     program(2, "Program_Category_Class", PF::CategoryClass, K::CategoryClass),
     program(2, "Program_Specific_Category", PF::SpecificCategory),
     program(2, "Program_System_Requirements", PF::SystemRequirements),
-    unset(2, "FacebookProductPage"),
-    unset(2, "GooglePlusProductPage"),
+    extra(2, "FacebookProductPage", RecordSide::Program),
+    extra(2, "GooglePlusProductPage", RecordSide::Program),
     close(1, "Program_Info"),
 
     open(1, "Program_Descriptions"),
@@ -123,8 +124,8 @@ constexpr auto kRows = std::to_array<LaterPadRow>({
     program(3, "Application_Screenshot_URL", PF::ApplicationScreenshotURL),
     program(3, "Application_Icon_URL", PF::ApplicationIconURL),
     program(3, "Application_XML_File_URL", PF::ApplicationXMLFileURL),
-    unset(3, "Video_Link_1_URL"),
-    unset(3, "Video_Link_2_URL"),
+    extra(3, "Video_Link_1_URL", RecordSide::Program),
+    extra(3, "Video_Link_2_URL", RecordSide::Program),
     close(2, "Application_URLs"),
     open(2, "Download_URLs"),
     program(3, "Primary_Download_URL", PF::PrimaryDownloadURL),
@@ -140,20 +141,20 @@ constexpr auto kRows = std::to_array<LaterPadRow>({
     close(1, "Permissions"),
 
     open(1, "Press_Release", true),
-    unset(2, "Keywords"),
-    unset(2, "Headline"),
-    unset(2, "Summary"),
-    unset(2, "Press_Release"),
-    unset(2, "Press_Release_Plain"),
-    unset(2, "Related_URL"),
+    extra(2, "Keywords", RecordSide::Program, "Press_Release_Keywords"),
+    extra(2, "Headline", RecordSide::Program),
+    extra(2, "Summary", RecordSide::Program),
+    extra(2, "Press_Release", RecordSide::Program),
+    extra(2, "Press_Release_Plain", RecordSide::Program),
+    extra(2, "Related_URL", RecordSide::Program),
     close(1, "Press_Release", true),
     open(1, "NewsFeed", true),
-    unset(2, "NewsFeed_Feed_URL"),
-    unset(2, "NewsFeed_Type"),
-    unset(2, "NewsFeed_Title"),
-    unset(2, "NewsFeed_Keywords"),
-    unset(2, "NewsFeed_Description_70"),
-    unset(2, "NewsFeed_Description_250"),
+    extra(2, "NewsFeed_Feed_URL", RecordSide::Program),
+    extra(2, "NewsFeed_Type", RecordSide::Program),
+    extra(2, "NewsFeed_Title", RecordSide::Program),
+    extra(2, "NewsFeed_Keywords", RecordSide::Program),
+    extra(2, "NewsFeed_Description_70", RecordSide::Program),
+    extra(2, "NewsFeed_Description_250", RecordSide::Program),
     close(1, "NewsFeed", true),
 
     association("ASP", PF::ASPActivated),

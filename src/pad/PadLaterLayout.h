@@ -8,14 +8,16 @@
 namespace brevaro {
 
 // The shape of a PAD 3.11 or 4.0 document, row by row, in the published element order. The
-// rows added by 4.0 are marked; a 3.11 document is the same rows without them. Elements that
+// rows added by 4.0 are marked; a 3.11 document is the same rows without them. The systems,
+// languages and category class are the extra fields of those names when the author set them,
+// else they are derived from the 1.15 record. Elements that
 // only the closed registry could fill (PublisherID, AppID, the certificate) are not rows.
 enum class LaterRowKind {
     Open,           // an opening tag of its own line
     Close,          // a closing tag
     Fixed,          // MASTER_PAD_VERSION, MASTER_PAD_EDITOR, MASTER_PAD_INFO
     Value,          // <E>v</E> from the row's field, or <E /> when empty
-    Unset,          // an element whose value the 1.15 records cannot hold: <E />
+    Extra,          // an element whose value only the record's extra fields hold
     YesNo,          // Y/N for a flag that is not 0
     OsTokens,       // the later tokens of the marked operating systems
     Languages,      // the later names of the marked languages
@@ -34,7 +36,8 @@ struct LaterPadRow {
     const char* element = nullptr; // the tag, or the element a value row writes
     RecordSide side = RecordSide::None;
     int field = -1;
-    bool since40 = false; // a row 4.0 added
+    bool since40 = false;        // a row 4.0 added
+    const char* extra = nullptr; // the extra field that holds the value (see ExtraFields.h)
 };
 
 // The rows of a 3.11 or 4.0 document.

@@ -49,7 +49,7 @@ QString laterPadText(PadVersion version, const CompanyRecord& company,
             d.full(row.indent, name, fixedValue(name, version));
             break;
         case K::Value:
-        case K::Unset:
+        case K::Extra:
         case K::OsTokens:
         case K::Languages:
         case K::CategoryClass:
@@ -64,7 +64,7 @@ QString laterPadText(PadVersion version, const CompanyRecord& company,
                                              : d.value(row.indent, v.element, v.value);
             break;
         case K::Descriptions:
-            writeDescriptions(d, row.indent, program);
+            writeDescriptions(d, row.indent, program, version);
             break;
         case K::Association:
             blockActive = program.number(f) == 1;
@@ -78,7 +78,7 @@ QString laterPadText(PadVersion version, const CompanyRecord& company,
             d.yesNo(row.indent, name, program.number(f) == 1);
             break;
         case K::MemberText:
-            d.full(row.indent, name, program.text(f));
+            d.full(row.indent, name, laterText(program.wholeText(row.field)));
             break;
         case K::AssociationEnd:
             if (blockActive)
@@ -97,32 +97,56 @@ std::array<LaterExpiryValue, 7> laterExpiryValues(const ProgramRecord& p) {
     // the date says it), any other its count and no date.
     const bool byDate = flagSet(p, PF::ExpireBasedOn, 3);
     auto dated = [&](PF f) {
-        return byDate ? p.text(f) : QString();
+        return byDate ? p.wholeText(static_cast<int>(f)) : QString();
     };
-    return {{{"Has_Expire_Info", PF::HasExpireInfo,
-              flagSet(p, PF::HasExpireInfo) ? QStringLiteral("Y") : QStringLiteral("N")},
-             {"Expire_Count", PF::ExpireCount, byDate ? QString() : p.text(PF::ExpireCount)},
-             {"Expire_Based_On", PF::ExpireBasedOn, byDate ? QString() : expireBasedOnCaption(p)},
-             {"Expire_Other_Info", PF::ExpireOtherInfo, p.text(PF::ExpireOtherInfo)},
-             {"Expire_Month", PF::ExpireMonth, dated(PF::ExpireMonth)},
-             {"Expire_Day", PF::ExpireDay, dated(PF::ExpireDay)},
-             {"Expire_Year", PF::ExpireYear, dated(PF::ExpireYear)}}};
+    return {
+        {{"Has_Expire_Info", PF::HasExpireInfo,
+          flagSet(p, PF::HasExpireInfo) ? QStringLiteral("Y") : QStringLiteral("N")},
+         {"Expire_Count", PF::ExpireCount, byDate ? QString() : p.wholeText(int(PF::ExpireCount))},
+         {"Expire_Based_On", PF::ExpireBasedOn, byDate ? QString() : expireBasedOnCaption(p)},
+         {"Expire_Other_Info", PF::ExpireOtherInfo, p.wholeText(int(PF::ExpireOtherInfo))},
+         {"Expire_Month", PF::ExpireMonth, dated(PF::ExpireMonth)},
+         {"Expire_Day", PF::ExpireDay, dated(PF::ExpireDay)},
+         {"Expire_Year", PF::ExpireYear, dated(PF::ExpireYear)}}};
 }
 
 QString laterValue(const LaterPadRow& row, const CompanyRecord& company,
                    const ProgramRecord& program, PadVersion version) {
+    const FixedRecord& record =
+        row.side == RecordSide::Company ? static_cast<const FixedRecord&>(company) : program;
+    // The systems, languages and class the author chose for the later versions, if any.
+    const QString chosen =
+        row.kind == K::OsTokens || row.kind == K::Languages || row.kind == K::CategoryClass
+            ? program.laterValue(QLatin1String(elementOf(row)))
+            : QString();
     switch (row.kind) {
     case K::Value:
-        return row.side == RecordSide::Company ? company.text(row.field) : program.text(row.field);
-    case K::OsTokens:
-        return laterOsTokens(program, version).join(u',');
+        return laterText(record.wholeText(row.field));
+    case K::Extra:
+        return laterText(record.laterValue(QLatin1String(row.extra)));
+    case K::OsTokens: {
+        if (chosen.isEmpty())
+            return laterOsTokens(program, version).join(u',');
+        // The tokens chosen for 4.0 that the version's list has.
+        QStringList tokens = chosen.split(u',');
+        tokens.removeIf([&](const QString& t) {
+            return !laterOperatingSystems(version).contains(t.trimmed());
+        });
+        return tokens.join(u',');
+    }
     case K::Languages:
-        return laterLanguageTokens(program).join(u',');
+        return !chosen.isEmpty() ? chosen : laterLanguageTokens(program).join(u',');
     case K::CategoryClass:
-        return proposedCategoryClass(program);
+        return !chosen.isEmpty() ? chosen : proposedCategoryClass(program);
     default:
         return QString();
     }
+}
+
+QString laterText(QString value) {
+    while (value.endsWith(u'\n') || value.endsWith(u'\r'))
+        value.chop(1);
+    return value;
 }
 
 QString CreatePADText(const CompanyRecord& company, const ProgramRecord& program,

@@ -47,7 +47,7 @@ void expiryBlock(Lines& d, int indent, const ProgramRecord& p) {
 
 } // namespace
 
-void writeDescriptions(PadLines& d, int indent, const ProgramRecord& p) {
+void writeDescriptions(PadLines& d, int indent, const ProgramRecord& p, PadVersion version) {
     const QStringList& languages = languageList();
     for (int i = 0; i < ProgramRecord::kLanguages; ++i) {
         if (!isOne(p, PF::DescriptionActive, i))
@@ -55,9 +55,14 @@ void writeDescriptions(PadLines& d, int indent, const ProgramRecord& p) {
         const QString language = trimBlanks(languages.value(i));
         d.line(indent, u'<' + language + u'>');
         for (PF f : descriptionFields())
-            d.value(indent + 1, element(f), p.text(f, i));
+            d.value(indent + 1, element(f), descriptionText(p, f, i, version));
         d.line(indent, QStringLiteral("</") + language + u'>');
     }
+}
+
+QString descriptionText(const ProgramRecord& p, ProgramField f, int language, PadVersion version) {
+    return version == PadVersion::V1_15 ? p.text(f, language)
+                                        : laterText(p.wholeText(static_cast<int>(f), language));
 }
 
 std::span<const ProgramField> descriptionFields() {
@@ -156,7 +161,7 @@ QString CreatePADText(const CompanyRecord& company, const ProgramRecord& program
             expiryBlock(d, row.indent, program);
             break;
         case PadRowKind::Descriptions:
-            writeDescriptions(d, row.indent, program);
+            writeDescriptions(d, row.indent, program, PadVersion::V1_15);
             break;
         case PadRowKind::Association:
             blockActive = isOne(program, f);

@@ -23,7 +23,13 @@ QString expireBasedOnCaption(const ProgramRecord& program);
 
 class PadLines;
 // One block per active language, each with its six description elements.
-void writeDescriptions(PadLines& d, int indent, const ProgramRecord& program);
+void writeDescriptions(PadLines& d, int indent, const ProgramRecord& program, PadVersion version);
+// A description as the document of version writes it: 1.15 what the record holds, the later
+// versions the whole text.
+// A value as the later versions write it: the whole text without trailing line breaks (the
+// published patterns refuse them, and the 1.15 importer appends one to the licence texts).
+QString laterText(QString value);
+QString descriptionText(const ProgramRecord& p, ProgramField f, int language, PadVersion version);
 // The six description fields of a language, in document order.
 std::span<const ProgramField> descriptionFields();
 // The list items that the flags of OSSupported or LanguageSupported stand for.

@@ -1,9 +1,9 @@
 #include "pad/PadTokens.h"
 
 #include "platform/StringHelpers.h"
+#include "records/ExtraFields.h"
 #include "records/ValueLists.h"
 
-#include <QFile>
 #include <QRegularExpression>
 #include <array>
 
@@ -12,18 +12,6 @@ namespace brevaro {
 namespace {
 
 using PF = ProgramField;
-
-QStringList readList(const QString& resource) {
-    QFile file(resource);
-    const bool opened = file.open(QIODevice::ReadOnly);
-    Q_ASSERT_X(opened, "readList", qPrintable(resource));
-    QStringList items =
-        QString::fromUtf8(opened ? file.readAll() : QByteArray()).split(u'\n', Qt::SkipEmptyParts);
-    for (QString& item : items)
-        if (item.endsWith(u'\r'))
-            item.chop(1);
-    return items;
-}
 
 constexpr auto kOsMappings = std::to_array<OsMapping>({
     {"Win 3.1x", "WinOther", false},   {"Win95", "WinOther", false},
@@ -70,19 +58,16 @@ QString mainClassOf(const QString& specific) {
 } // namespace
 
 const QStringList& categoryClasses() {
-    static const QStringList items = readList(QStringLiteral(":/pad/lists/categories.txt"));
-    return items;
+    return publishedList(PublishedList::Categories);
 }
 
 const QStringList& laterLanguages() {
-    static const QStringList items = readList(QStringLiteral(":/pad/lists/languages.txt"));
-    return items;
+    return publishedList(PublishedList::Languages);
 }
 
 const QStringList& laterOperatingSystems(PadVersion version) {
-    static const QStringList v311 = readList(QStringLiteral(":/pad/lists/os-3.11.txt"));
-    static const QStringList v40 = readList(QStringLiteral(":/pad/lists/os-4.0.txt"));
-    return version == PadVersion::V4_0 ? v40 : v311;
+    return publishedList(version == PadVersion::V4_0 ? PublishedList::Systems40
+                                                     : PublishedList::Systems311);
 }
 
 std::span<const OsMapping> osMappings() {

@@ -84,6 +84,7 @@ std::vector<PadWrittenValue> padWrittenValues(const CompanyRecord& company,
         const char* element = elementOf(row);
         switch (row.kind) {
         case LaterRowKind::Value:
+        case LaterRowKind::Extra:
         case LaterRowKind::OsTokens:
         case LaterRowKind::Languages:
         case LaterRowKind::CategoryClass:
@@ -99,16 +100,16 @@ std::vector<PadWrittenValue> padWrittenValues(const CompanyRecord& company,
                     for (PF f : descriptionFields())
                         add(programLayout().field(static_cast<int>(f)).padElement,
                             RecordSide::Program, static_cast<int>(f), language,
-                            program.text(f, language));
+                            descriptionText(program, f, language, version));
             break;
         case LaterRowKind::Association:
             blockActive = program.number(row.field) == 1;
             break;
         case LaterRowKind::MemberText:
             if (blockActive)
-                add(element, row.side, row.field, 0, program.text(row.field));
+                add(element, row.side, row.field, 0, laterText(program.wholeText(row.field)));
             break;
-        default: // tags, fixed texts, Y/N flags and the elements no record holds
+        default: // tags, fixed texts and Y/N flags
             break;
         }
     }

@@ -64,6 +64,17 @@ QString FixedRecord::text(int field, int index) const {
     return trimBlanks(rawText(field, index));
 }
 
+// What a field of f's width holds of value, trimmed.
+static QString heldForm(const RecordField& f, QStringView value) {
+    const QByteArray bytes = toWin1252(value);
+    return trimBlanks(fromWin1252(bytes.constData(), std::min<qsizetype>(bytes.size(), f.width)));
+}
+
+QString FixedRecord::wholeKey(const RecordField& field, int index) {
+    const QString name = QLatin1String(field.name);
+    return field.count > 1 ? name + u'[' + QString::number(index) + u']' : name;
+}
+
 void FixedRecord::setText(int field, QStringView value, int index) {
     const RecordField& f = fieldAt(field);
     checkEntry(f, index, true);
@@ -73,6 +84,34 @@ void FixedRecord::setText(int field, QStringView value, int index) {
     const qsizetype n = std::min<qsizetype>(bytes.size(), f.width);
     std::copy_n(bytes.constData(), n, dst);
     std::fill(dst + n, dst + f.width, ' ');
+
+    const QString held = trimBlanks(fromWin1252(dst, f.width));
+    const QString typed = trimBlanks(value);
+    const auto whole = m_whole.find(wholeKey(f, index));
+    if (typed != held)
+        m_whole.insert(wholeKey(f, index), typed);
+    else if (whole != m_whole.end() && (*whole == typed || heldForm(f, *whole) != held))
+        m_whole.erase(whole);
+}
+
+QString FixedRecord::wholeText(int field, int index) const {
+    const RecordField& f = fieldAt(field);
+    checkEntry(f, index, true);
+    const QString held = text(field, index);
+    const auto whole = m_whole.constFind(wholeKey(f, index));
+    return whole != m_whole.cend() && heldForm(f, *whole) == held ? *whole : held;
+}
+
+void FixedRecord::setLaterValue(const QString& name, const QString& value) {
+    if (value.isEmpty())
+        m_later.remove(name);
+    else
+        m_later.insert(name, value);
+}
+
+void FixedRecord::setExtras(Extras later, Extras whole) {
+    m_later = std::move(later);
+    m_whole = std::move(whole);
 }
 
 QString FixedRecord::trimText(int field, int index) {

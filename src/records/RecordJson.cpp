@@ -2,6 +2,8 @@
 
 #include <limits>
 
+#include "records/ExtraFields.h"
+
 #include <QJsonArray>
 #include <QRegularExpression>
 
@@ -13,7 +15,7 @@ QJsonObject recordToJson(const FixedRecord& record) {
     for (int i = 0; i < static_cast<int>(fields.size()); ++i) {
         const RecordField& f = fields[static_cast<std::size_t>(i)];
         auto value = [&](int entry) -> QJsonValue {
-            return f.isText() ? QJsonValue(record.text(i, entry))
+            return f.isText() ? QJsonValue(record.wholeText(i, entry))
                               : QJsonValue(record.number(i, entry));
         };
         if (f.count == 1) {
@@ -25,8 +27,41 @@ QJsonObject recordToJson(const FixedRecord& record) {
             object.insert(QLatin1String(f.name), array);
         }
     }
+    for (const ExtraField& e : extraFields())
+        if (e.side == record.layout().side)
+            object.insert(QLatin1String(e.name), record.laterValue(QLatin1String(e.name)));
     return object;
 }
+
+namespace {
+
+// Why value does not fit the extra field, or an empty string.
+QString extraValueProblem(const ExtraField& e, const QString& value) {
+    if (value.size() > e.maxLength)
+        return QStringLiteral("%1 holds at most %2 characters")
+            .arg(QLatin1String(e.name))
+            .arg(e.maxLength);
+    if (value.isEmpty())
+        return QString();
+    if (e.kind == ExtraKind::Address && !value.startsWith(QLatin1String("http://")) &&
+        !value.startsWith(QLatin1String("https://")))
+        return QStringLiteral("%1 takes an address that starts with http:// or https://")
+            .arg(QLatin1String(e.name));
+    const QStringList choices = extraFieldChoices(e);
+    const QStringList given =
+        e.kind == ExtraKind::TokenList ? value.split(u',') : QStringList{value};
+    for (const QString& token : given)
+        if (!choices.isEmpty() && !choices.contains(token.trimmed()))
+            return QStringLiteral("\"%1\" is not one of the values of %2")
+                .arg(token.trimmed(), QLatin1String(e.name));
+    if ((e.kind == ExtraKind::Text || e.kind == ExtraKind::Choice ||
+         e.kind == ExtraKind::Address) &&
+        value.contains(u'\n'))
+        return QStringLiteral("%1 takes one line").arg(QLatin1String(e.name));
+    return QString();
+}
+
+} // namespace
 
 bool FieldAssignment::parse(const QString& text, FieldAssignment* out) {
     static const QRegularExpression pattern(
@@ -50,6 +85,18 @@ bool FieldAssignment::parse(const QString& text, FieldAssignment* out) {
 
 bool applyAssignment(FixedRecord& record, const FieldAssignment& a, QString* message) {
     const int field = record.layout().indexOf(a.name);
+    if (const ExtraField* e = extraField(a.name);
+        field < 0 && e && e->side == record.layout().side && a.index < 0) {
+        QStringList tokens = a.value.split(u',');
+        for (QString& t : tokens)
+            t = t.trimmed();
+        const QString value = e->kind == ExtraKind::TokenList ? tokens.join(u',') : a.value;
+        *message = extraValueProblem(*e, value);
+        if (!message->isEmpty())
+            return false;
+        record.setLaterValue(a.name, value);
+        return true;
+    }
     if (field < 0) {
         *message = QStringLiteral("there is no field %1").arg(a.name);
         return false;

@@ -54,7 +54,31 @@ public:
         return m_core.screen.at(control(side, field, entry)).text;
     }
     void setFieldText(RecordSide side, int field, int entry, const QString& value) override {
-        m_core.screen.setText(control(side, field, entry), value);
+        const int id = control(side, field, entry);
+        m_core.screen.setText(id, value);
+        // A box cuts what goes over its limit, as typing would; the record keeps the whole
+        // text beside what it holds, while the box shows the cut form.
+        if (m_core.screen.at(id).text != value)
+            recordOf(side).setText(field, value, entry);
+    }
+    void setExtraValue(RecordSide side, const QString& name, const QString& value) override {
+        // Into its control when the window shows the field, else straight into the record
+        // (the import's saves write it).
+        const int id = controlOfExtra(side, name);
+        if (id < 0) {
+            recordOf(side).setLaterValue(name, value);
+            return;
+        }
+        ScreenModel& screen = m_core.screen;
+        if (screen.at(id).kind != ControlKind::ListBox) {
+            screen.setText(id, value);
+            return;
+        }
+        QStringList tokens = value.split(u',', Qt::SkipEmptyParts);
+        for (QString& t : tokens)
+            t = t.trimmed();
+        for (int i = 0; i < screen.at(id).items.size(); ++i)
+            screen.setItemSelected(id, i, tokens.contains(screen.at(id).items[i]));
     }
     void setFieldFlag(RecordSide side, int field, int entry, bool on) override {
         const int id = control(side, field, entry);
@@ -66,6 +90,10 @@ public:
     }
 
 private:
+    FixedRecord& recordOf(RecordSide side) {
+        return side == RecordSide::Company ? static_cast<FixedRecord&>(m_core.company)
+                                           : m_core.program;
+    }
     static int control(RecordSide side, int field, int entry) {
         const int id = controlOfField(side, field, entry);
         if (id < 0)

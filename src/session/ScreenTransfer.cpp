@@ -1,5 +1,6 @@
 #include "session/ScreenTransfer.h"
 
+#include "platform/StringHelpers.h"
 #include "platform/WebAddresses.h"
 #include "session/SessionCore.h"
 
@@ -18,13 +19,46 @@ template <typename Fn> void ScreenTransfer::forEachControl(RecordSide side, Fn f
 
 namespace {
 
+// An extra field's control: a text, a choice, or the checked items of a list joined by commas.
+void screenToExtra(const ControlState& c, const ControlRow& s, FixedRecord& r) {
+    if (s.kind != ControlKind::ListBox) {
+        r.setLaterValue(s.extra, trimBlanks(c.text));
+        return;
+    }
+    QStringList checked;
+    for (int i = 0; i < c.items.size(); ++i)
+        if (c.selected.value(i))
+            checked << c.items[i];
+    r.setLaterValue(s.extra, checked.join(u','));
+}
+
+void extraToScreen(ScreenModel& screen, int id, const ControlRow& s, const FixedRecord& r) {
+    const QString value = r.laterValue(s.extra);
+    if (s.kind != ControlKind::ListBox) {
+        screen.setText(id, value);
+        return;
+    }
+    QStringList chosen = value.split(u',', Qt::SkipEmptyParts);
+    for (QString& token : chosen)
+        token = token.trimmed();
+    const QStringList& items = screen.at(id).items;
+    for (int i = 0; i < items.size(); ++i)
+        screen.setItemSelected(id, i, chosen.contains(items[i]));
+}
+
 void screenToRecord(const ScreenModel& screen, int id, const ControlRow& s, FixedRecord& r) {
     const ControlState& c = screen.at(id);
+    if (!s.extra.isEmpty())
+        return screenToExtra(c, s, r);
     switch (s.kind) {
     case ControlKind::TextBox:
-    case ControlKind::ComboBox:
-        r.setText(s.field, c.text, s.entry);
+    case ControlKind::ComboBox: {
+        // A box that shows the record's whole text cut at its limit keeps the whole text.
+        const QString whole = r.wholeText(s.field, s.entry);
+        const bool cutForm = s.limit > 0 && whole.size() > s.limit && c.text == whole.left(s.limit);
+        r.setText(s.field, cutForm ? whole : c.text, s.entry);
         break;
+    }
     case ControlKind::ListBox:
         for (int i = 0; i < c.items.size(); ++i)
             r.setNumber(s.field, c.selected.value(i) ? -1 : 0, i);
@@ -41,10 +75,15 @@ void screenToRecord(const ScreenModel& screen, int id, const ControlRow& s, Fixe
 }
 
 void recordToScreen(ScreenModel& screen, int id, const ControlRow& s, FixedRecord& r) {
+    if (!s.extra.isEmpty())
+        return extraToScreen(screen, id, s, r);
     switch (s.kind) {
     case ControlKind::TextBox:
     case ControlKind::ComboBox:
-        screen.setText(id, r.trimText(s.field, s.entry));
+        // The whole text where the record holds only part of it (the box shows what its
+        // limit allows; the whole is kept while it is not edited).
+        r.trimText(s.field, s.entry);
+        screen.setText(id, r.wholeText(s.field, s.entry));
         break;
     case ControlKind::ListBox:
         for (int i = 0; i < screen.at(id).items.size(); ++i)

@@ -44,6 +44,12 @@ QString AppHome::companyFile() const {
 QString AppHome::programFile(int companyId) const {
     return join(dataFolder(), QString::number(companyId) + QStringLiteral(".dta"));
 }
+QString AppHome::extrasFile(const QString& recordFile) {
+    QString path = recordFile;
+    if (path.endsWith(QLatin1String(".dta")))
+        path.chop(4);
+    return path + QStringLiteral(".extra.json");
+}
 QString AppHome::deletionIntentFile() const {
     return join(dataFolder(), QStringLiteral("deletion.intent"));
 }

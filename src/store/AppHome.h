@@ -19,6 +19,8 @@ public:
     QString shareFolder() const;
     QString companyFile() const;
     QString programFile(int companyId) const;
+    // The companion of a record file: the values its records cannot hold.
+    static QString extrasFile(const QString& recordFile);
     QString deletionIntentFile() const;
     QString saveIntentFile() const;
     QString verificationPage() const;

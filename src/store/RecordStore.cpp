@@ -66,10 +66,20 @@ void RecordStore::endBatch() {
 
 void RecordStore::discardBatch() {
     m_pending.clear();
+    m_pendingExtras.clear();
     m_programNames.clear();
 }
 
 bool RecordStore::commitBatch() {
+    for (const auto& [recordPath, extras] : m_pendingExtras) {
+        const QString path = AppHome::extrasFile(recordPath);
+        if (!extras.entries.empty())
+            m_pending[path] = extras.toBytes();
+        else if (QFileInfo::exists(path))
+            m_pending[path] = std::nullopt;
+        m_extrasCache.erase(path);
+    }
+    m_pendingExtras.clear();
     if (m_pending.empty())
         return true;
     SaveIntent intent;
@@ -139,8 +149,10 @@ QString RecordStore::programFileName(int companyId) {
 
 bool RecordStore::readCompany(int n, CompanyRecord& record) const {
     const auto bytes = companyFile().read(n);
-    if (bytes)
+    if (bytes) {
         record.setBytes(*bytes);
+        attachExtras(m_home.companyFile(), n, record, [this] { return companyNames(); });
+    }
     return bytes.has_value();
 }
 
@@ -148,7 +160,7 @@ bool RecordStore::writeCompany(int n, const CompanyRecord& record) {
     RecordFile file = companyFile();
     const bool ok = file.write(n, record.bytes());
     m_error = file.errorString();
-    return ok;
+    return ok && updateExtras(m_home.companyFile(), n, record, [this] { return companyNames(); });
 }
 
 QStringList RecordStore::companyNames() const {
@@ -158,8 +170,11 @@ QStringList RecordStore::companyNames() const {
 
 bool RecordStore::readProgram(int companyId, int n, ProgramRecord& record) const {
     const auto bytes = programFile(companyId).read(n);
-    if (bytes)
+    if (bytes) {
         record.setBytes(*bytes);
+        attachExtras(m_home.programFile(companyId), n, record,
+                     [this, companyId] { return programNames(companyId); });
+    }
     return bytes.has_value();
 }
 
@@ -180,7 +195,8 @@ bool RecordStore::writeProgram(int companyId, int n, const ProgramRecord& record
         else
             m_programNames.erase(cached);
     }
-    return ok;
+    return ok && updateExtras(m_home.programFile(companyId), n, record,
+                              [this, companyId] { return programNames(companyId); });
 }
 
 QStringList RecordStore::programNames(int companyId) const {
@@ -196,6 +212,7 @@ QStringList RecordStore::programNames(int companyId) const {
 }
 
 bool RecordStore::deleteProgram(int companyId, int n) {
+    const QStringList before = programNames(companyId);
     m_programNames.erase(companyId);
     RecordFile file = programFile(companyId);
     if (!file.remove(n)) {
@@ -204,7 +221,85 @@ bool RecordStore::deleteProgram(int companyId, int n) {
     }
     if (file.count() == 0)
         file.removeFile();
-    return true;
+    ExtrasFile extras = extrasOf(file.path());
+    if (extras.entries.empty() && !QFileInfo::exists(AppHome::extrasFile(file.path())))
+        return true;
+    extras.matchRecords(before);
+    extras.removeRecord(n);
+    return putExtras(file.path(), extras);
+}
+
+ExtrasFile RecordStore::extrasOf(const QString& recordPath) const {
+    if (const auto pending = m_pendingExtras.find(recordPath); pending != m_pendingExtras.end())
+        return pending->second;
+    const QString path = AppHome::extrasFile(recordPath);
+    const QFileInfo info(path);
+    if (!info.exists())
+        return ExtrasFile();
+    CachedExtras& cached = m_extrasCache[path];
+    const qint64 modified = info.lastModified().toMSecsSinceEpoch();
+    if (cached.size != info.size() || cached.modified != modified) {
+        QByteArray bytes;
+        QString why;
+        QStringList problems;
+        cached.file = readRegularFile(path, ExtrasFile::kMaxBytes, &bytes, &why)
+                          ? ExtrasFile::parse(bytes, &problems)
+                          : ExtrasFile();
+        cached.size = info.size();
+        cached.modified = modified;
+    }
+    return cached.file;
+}
+
+bool RecordStore::putExtras(const QString& recordPath, const ExtrasFile& file) {
+    if (m_batching) {
+        m_pendingExtras[recordPath] = file;
+        return true;
+    }
+    const QString path = AppHome::extrasFile(recordPath);
+    m_extrasCache.erase(path);
+    if (file.entries.empty()) {
+        if (QFileInfo::exists(path) && !QFile::remove(path)) {
+            m_error = QStringLiteral("%1 cannot be removed").arg(QDir::toNativeSeparators(path));
+            return false;
+        }
+        return true;
+    }
+    return writeFileAtomically(path, file.toBytes(), &m_error);
+}
+
+void RecordStore::attachExtras(const QString& recordPath, int n, FixedRecord& record,
+                               const std::function<QStringList()>& names) const {
+    record.setExtras({}, {});
+    ExtrasFile extras = extrasOf(recordPath);
+    if (extras.entries.empty())
+        return;
+    const QString name = record.text(1);
+    const ExtrasEntry* entry = extras.entry(n);
+    if (!entry || entry->name != name) {
+        // The numbers no longer fit the records (another program changed the file): the
+        // entries are matched again, by name.
+        extras.matchRecords(names());
+        entry = extras.entry(n);
+    }
+    if (entry && entry->name == name)
+        record.setExtras(entry->later, entry->whole);
+}
+
+bool RecordStore::updateExtras(const QString& recordPath, int n, const FixedRecord& record,
+                               const std::function<QStringList()>& names) {
+    ExtrasFile extras = extrasOf(recordPath);
+    const bool stored = !extras.entries.empty() || m_pendingExtras.count(recordPath) ||
+                        QFileInfo::exists(AppHome::extrasFile(recordPath));
+    if (!stored && !record.hasExtras())
+        return true; // a home without extra values stays without a companion
+    // Record n is written whole, extra values included: its old entry goes first, so that it
+    // can never be matched to another record of the same name.
+    std::erase_if(extras.entries, [n](const ExtrasEntry& e) { return e.number == n; });
+    const QStringList current = names();
+    extras.matchRecords(current);
+    extras.setEntry(n, current.value(n - 1), record);
+    return putExtras(recordPath, extras);
 }
 
 // A company deletion runs in four phases, kept in an intent file until the last phase is
@@ -326,13 +421,12 @@ bool RecordStore::saveIntent(const DeletionIntent& intent) {
     return true;
 }
 
-QString RecordStore::setAsidePath(int fileNumber, bool doomed) const {
-    return m_home.programFile(fileNumber) + QLatin1String(doomed ? kDoomedSuffix : kMovingSuffix);
+QString RecordStore::setAsidePath(const QString& path, bool doomed) const {
+    return path + QLatin1String(doomed ? kDoomedSuffix : kMovingSuffix);
 }
 
-bool RecordStore::setAside(int fileNumber, bool doomed) {
-    const QString source = m_home.programFile(fileNumber);
-    const QString staged = setAsidePath(fileNumber, doomed);
+bool RecordStore::setAside(const QString& source, bool doomed) {
+    const QString staged = setAsidePath(source, doomed);
     if (!QFile::exists(source))
         return true;
     QFile::remove(staged);
@@ -348,14 +442,21 @@ bool RecordStore::runDeletion(DeletionIntent intent, int lastPhase) {
         if (p == 0 && !compactCompanies(intent))
             return false;
         if (p == 1) {
-            if (!setAside(intent.doomedFile, true))
-                return false;
-            for (const auto& m : intent.moves)
-                if (!setAside(m.from, false))
+            for (const QString& path : {m_home.programFile(intent.doomedFile),
+                                        AppHome::extrasFile(m_home.programFile(intent.doomedFile))})
+                if (!setAside(path, true))
                     return false;
+            for (const auto& m : intent.moves)
+                for (const QString& path :
+                     {m_home.programFile(m.from), AppHome::extrasFile(m_home.programFile(m.from))})
+                    if (!setAside(path, false))
+                        return false;
         }
-        if (p == 2)
-            QFile::remove(setAsidePath(intent.doomedFile, true));
+        if (p == 2) {
+            const QString doomed = m_home.programFile(intent.doomedFile);
+            QFile::remove(setAsidePath(doomed, true));
+            QFile::remove(setAsidePath(AppHome::extrasFile(doomed), true));
+        }
         if (p == 3)
             for (const auto& m : intent.moves)
                 if (!finishMove(m))
@@ -371,7 +472,26 @@ bool RecordStore::runDeletion(DeletionIntent intent, int lastPhase) {
     return true;
 }
 
+// The companion of the company file loses the deleted company's entry, the later entries
+// moving down; its record count says whether that was done before a crash.
+bool RecordStore::compactCompanyExtras(const DeletionIntent& intent) {
+    const QString recordPath = m_home.companyFile();
+    m_extrasCache.erase(AppHome::extrasFile(recordPath));
+    ExtrasFile extras = extrasOf(recordPath);
+    if (extras.recordCount != intent.companyCount ||
+        !QFileInfo::exists(AppHome::extrasFile(recordPath)))
+        return true;
+    extras.removeRecord(intent.doomedIndex);
+    if (extras.entries.empty()) {
+        // An empty companion still records that the compaction was done.
+        return writeFileAtomically(AppHome::extrasFile(recordPath), extras.toBytes(), &m_error);
+    }
+    return putExtras(recordPath, extras);
+}
+
 bool RecordStore::compactCompanies(const DeletionIntent& intent) {
+    if (!compactCompanyExtras(intent))
+        return false;
     RecordFile file = companyFile();
     if (file.count() != intent.companyCount)
         return true; // done before the crash
@@ -395,7 +515,14 @@ bool RecordStore::compactCompanies(const DeletionIntent& intent) {
 }
 
 bool RecordStore::finishMove(const DeletionIntent::Move& m) {
-    const QString staged = setAsidePath(m.from, false);
+    const QString stagedExtras =
+        setAsidePath(AppHome::extrasFile(m_home.programFile(m.from)), false);
+    if (QFile::exists(stagedExtras) &&
+        !replaceFile(stagedExtras, AppHome::extrasFile(m_home.programFile(m.to)))) {
+        m_error = QStringLiteral("%1 cannot be renamed").arg(stagedExtras);
+        return false;
+    }
+    const QString staged = setAsidePath(m_home.programFile(m.from), false);
     if (!QFile::exists(staged))
         return true;
     RecordFile from(staged, FixedRecord::emptyBytes(programLayout()));
@@ -433,6 +560,31 @@ QStringList RecordStore::damage(int companyId) const {
     for (int id : ids)
         if (const QString d = programFile(id).damage(); !d.isEmpty())
             problems << d;
+    problems << extrasDamage(m_home.companyFile(), [this] { return companyNames(); });
+    for (int id : ids)
+        problems << extrasDamage(m_home.programFile(id), [this, id] { return programNames(id); });
+    return problems;
+}
+
+QStringList RecordStore::extrasDamage(const QString& recordPath,
+                                      const std::function<QStringList()>& names) const {
+    const QString path = AppHome::extrasFile(recordPath);
+    if (!QFileInfo::exists(path))
+        return {};
+    QByteArray bytes;
+    QString why;
+    QStringList problems;
+    ExtrasFile extras;
+    if (readRegularFile(path, ExtrasFile::kMaxBytes, &bytes, &why))
+        extras = ExtrasFile::parse(bytes, &problems);
+    else
+        problems << why;
+    for (const ExtrasEntry& lost : extras.matchRecords(names()))
+        problems << QStringLiteral("the extra fields kept for \"%1\" belong to no record; they "
+                                   "are dropped at the next save")
+                        .arg(lost.name);
+    for (QString& p : problems)
+        p = QDir::toNativeSeparators(path) + QStringLiteral(": ") + p;
     return problems;
 }
 
@@ -440,10 +592,12 @@ QStringList RecordStore::clearCrashLeftovers() {
     QStringList report;
     QDir data(m_home.dataFolder());
     // QSaveFile's temporary files: the target's name and six random letters or digits.
-    static const QRegularExpression temporary(
-        QStringLiteral("^((company|[1-9][0-9]*)\\.dta(\\.pending)?|deletion\\.intent|save\\.intent)"
-                       "\\.(?!moving$|doomed$)[A-Za-z0-9]{6}$"));
-    static const QRegularExpression programFileName(QStringLiteral("^([1-9][0-9]{0,8})\\.dta$"));
+    static const QRegularExpression temporary(QStringLiteral(
+        "^((company|[1-9][0-9]*)\\.(dta|extra\\.json)(\\.pending)?|deletion\\.intent|"
+        "save\\.intent)"
+        "\\.(?!moving$|doomed$)[A-Za-z0-9]{6}$"));
+    static const QRegularExpression programFileName(
+        QStringLiteral("^([1-9][0-9]{0,8})\\.(dta|extra\\.json)$"));
     const std::vector<int> ids = companyIds();
     const QSet<int> owned(ids.begin(), ids.end());
     for (const QString& name : data.entryList(QDir::Files | QDir::Hidden | QDir::System)) {

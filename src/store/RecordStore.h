@@ -4,16 +4,21 @@
 #include "records/ProgramRecord.h"
 #include "store/AppHome.h"
 #include "store/DeletionIntent.h"
+#include "store/ExtrasFile.h"
 #include "store/RecordFile.h"
 #include "store/SaveIntent.h"
 
 #include <QStringList>
+#include <functional>
 
 namespace brevaro {
 
 // The company file and the per-company program files of one home. A company's CompanyID is
 // its record number and names its program file; deleting a company renumbers the companies
 // after it and moves their program files along, so every company keeps its own programs.
+// Each record file may have a companion (ExtrasFile) with the values its records cannot hold;
+// it is read, written, renumbered and moved with the records, so a record read from the
+// store carries its extra values, and one written keeps them.
 class RecordStore {
 public:
     explicit RecordStore(AppHome home);
@@ -72,6 +77,20 @@ public:
     QStringList clearCrashLeftovers();
 
 private:
+    struct CachedExtras {
+        qint64 size = -1;
+        qint64 modified = 0;
+        ExtrasFile file;
+    };
+    // The companion of a record file as the store sees it (gathered changes included).
+    ExtrasFile extrasOf(const QString& recordPath) const;
+    bool putExtras(const QString& recordPath, const ExtrasFile& file);
+    void attachExtras(const QString& recordPath, int n, FixedRecord& record,
+                      const std::function<QStringList()>& names) const;
+    bool updateExtras(const QString& recordPath, int n, const FixedRecord& record,
+                      const std::function<QStringList()>& names);
+    QStringList extrasDamage(const QString& recordPath,
+                             const std::function<QStringList()>& names) const;
     bool deleteCompanyNow(int n);
     bool completeDeletionNow();
     bool completeInterruptedSave();
@@ -82,14 +101,17 @@ private:
     bool saveIntent(const DeletionIntent& intent);
     bool compactCompanies(const DeletionIntent& intent);
     bool finishMove(const DeletionIntent::Move& m);
-    QString setAsidePath(int fileNumber, bool doomed) const;
-    bool setAside(int fileNumber, bool doomed);
+    QString setAsidePath(const QString& path, bool doomed) const;
+    bool setAside(const QString& path, bool doomed);
+    bool compactCompanyExtras(const DeletionIntent& intent);
 
     AppHome m_home;
     QString m_error;
     bool m_batching = false;
     mutable PendingFiles m_pending;
     mutable std::map<int, QStringList> m_programNames; // by company id, while batching
+    std::map<QString, ExtrasFile> m_pendingExtras;     // by record file, while batching
+    mutable std::map<QString, CachedExtras> m_extrasCache;
 };
 
 } // namespace brevaro

@@ -6,7 +6,7 @@ namespace brevaro {
 
 bool SaveIntent::isRecordFileName(const QString& name) {
     static const QRegularExpression pattern(
-        QStringLiteral("^(company\\.dta|[1-9][0-9]{0,8}\\.dta)$"));
+        QStringLiteral("^(company|[1-9][0-9]{0,8})\\.(dta|extra\\.json)$"));
     return pattern.match(name).hasMatch();
 }
 

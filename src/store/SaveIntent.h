@@ -11,9 +11,10 @@ namespace brevaro {
 //   save
 //   write F     F.pending, fully written, replaces F
 //   remove F    F goes
-// F is "company.dta" or "N.dta"; the paths are the store's to derive. Once the intent exists
-// every new file is complete, so a crash is finished by the next start; before it, the next
-// start drops the .pending files and nothing has changed.
+// F is "company.dta" or "N.dta", or its companion "company.extra.json" or "N.extra.json"; the paths
+// are the store's to derive. Once the intent exists every new file is complete, so a crash is
+// finished by the next start; before it, the next start drops the .pending files and nothing has
+// changed.
 struct SaveIntent {
     QStringList written;
     QStringList removed;

@@ -88,6 +88,15 @@ TEST_F(ImporterTest, RealFilesFromOtherTools) {
     EXPECT_EQ(p.number(ProgramField::DescriptionActive, 3), 0); // the German block is empty
     store.readProgram(1, 1, p); // UTF-8 with Cyrillic: what Windows-1252 cannot hold becomes "?"
     EXPECT_EQ(p.text(ProgramField::ProgramVersion).left(3), u"2.7"_s);
+    // ... in the record; the whole text, cut neither in length nor in letters, is kept beside it.
+    const QString change = p.wholeText(int(ProgramField::ChangeInfo));
+    EXPECT_EQ(change.size(), 531);
+    EXPECT_TRUE(change.contains(u"иmproved"_s));
+    EXPECT_TRUE(p.text(ProgramField::ChangeInfo).contains(u"?mproved"_s));
+    EXPECT_EQ(p.laterValue(u"Program_OS_Support"_s),
+              u"Win7 x32,Win7 x64,WinVista,WinVista x64,WinXP"_s);
+    store.readProgram(4, 1, p); // version 1.00 with the later language names
+    EXPECT_EQ(p.laterValue(u"Program_Language"_s).split(u',').size(), 31);
 }
 
 // What a 1.15 record cannot keep is named, element by element; a file that fits names nothing.
@@ -95,19 +104,28 @@ TEST_F(ImporterTest, WhatA115RecordCannotKeepIsReported) {
     const QDir samples(QStringLiteral(BREVARO_SAMPLES));
     const std::pair<const char*, QStringList> expected[] = {
         {"dnGrep__dnGrep__pad.xml",
-         {u"Program_OS_Support: 6 of 7 have no place in the PAD 1.15 list"_s,
-          u"Program_Change_Info: 1 character(s) that Windows-1252 cannot hold became \"?\""_s,
-          u"Program_Change_Info: cut from 531 to 128 characters"_s}},
+         {u"Program_OS_Support: 4 of 7 have no place in the PAD 1.15 list and are kept for PAD "
+          u"3.11 and 4.0 only: Win7 x32, Win7 x64, WinVista, WinVista x64"_s,
+          u"Program_OS_Support: 2 of 7 have no place in the PAD 1.15 list nor in the later ones "
+          u"and were left out: Win8 x32, Win8 x64"_s,
+          u"Program_Change_Info: 1 character(s) that Windows-1252 cannot hold are \"?\" in PAD "
+          u"1.15 files; PAD 3.11 and 4.0 files hold the whole text"_s,
+          u"Program_Change_Info: 531 characters, of which a PAD 1.15 file holds the first 128"_s,
+          u"Program_Category_Class: not in the published list of PAD 4.0, so left out of the "
+          u"later versions: File System"_s}},
         {"kalsky__FastWrite__pad.xml", {}},
         {"sth__ups__PAD.xml",
          {u"Program_OS_Support: 2 of 3 have no place in the PAD 1.15 list and were left out: "
           u"Solaris, FreeBSD"_s,
-          u"Filename_Generic: cut from 15 to 10 characters, the most a PAD 1.15 record holds: "
-          u"\"ar.gz\" was left out"_s,
-          u"Distribution_Permissions: cut from 732 to 500 characters"_s}},
+          u"Filename_Generic: 15 characters, of which a PAD 1.15 file holds the first 10 "
+          u"(\"ar.gz\" is left out there); the whole text is kept with the program"_s,
+          u"Distribution_Permissions: 732 characters"_s}},
         {"t-d-k__LibreCrypt__PAD.xml",
-         {u"Program_Language: 22 of 31"_s, u"Program_OS_Support: 14 of 17"_s,
-          u"Keywords (English): cut from 138 to 128 characters"_s}}};
+         {u"Program_Language: 22 of 31 have no place in the PAD 1.15 list and are kept"_s,
+          u"Program_OS_Support: 1 of 17 have no place in the PAD 1.15 list and are kept for PAD "
+          u"3.11 and 4.0 only: Windows 8"_s,
+          u"Program_OS_Support: 13 of 17 have no place in the PAD 1.15 list nor in the later"_s,
+          u"Keywords (English): 138 characters, of which a PAD 1.15 file holds the first 128"_s}}};
     for (const auto& [name, lines] : expected) {
         SCOPED_TRACE(name);
         ASSERT_TRUE(import(samples.filePath(QLatin1String(name))));
@@ -145,8 +163,8 @@ TEST_F(ImporterTest, LaterSystemTokensMarkTheir115Systems) {
             marked << systems[i].trimmed();
     EXPECT_EQ(marked, (QStringList{u"Windows2000"_s, u"Palm OS 3.2"_s, u"Open VMS"_s}));
     EXPECT_TRUE(session->pad().notKeptByImport().contains(
-        u"Program_OS_Support: 1 of 4 have no place in the PAD 1.15 list and were left out: "
-        "WinOther"_s))
+        u"Program_OS_Support: 1 of 4 have no place in the PAD 1.15 list and are kept for PAD 3.11 "
+        "and 4.0 only: WinOther"_s))
         << session->pad().notKeptByImport().join(u'\n').toStdString();
     // The press release's keywords, after the descriptions, are not a language's.
     QString withPress = doc;

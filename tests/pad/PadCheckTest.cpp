@@ -298,8 +298,6 @@ TEST(PadCheck, LaterVersionsSayTheirTrapsInWords) {
         {"letter outside latin-1", PadVersion::V4_0,
          program(PF::ApplicationInfoURL, u"https://s.example/\u0160koda"), Severity::Warning,
          "Application_Info_URL", "https://s.example/%C5%A0koda"},
-        {"trailing line break", PadVersion::V4_0, program(PF::CharDesc2000, u"Tidy notes.\r\n"),
-         Severity::Warning, "Char_Desc_2000", "ends with a line break"},
         {"old windows", PadVersion::V3_11, flag(PF::OSSupported, 1, 1), Severity::Note,
          "Program_OS_Support",
          "\"Win95\" has no token in the published list and is written as "
