@@ -5,6 +5,7 @@
 // seeded, so a failure can be run again.
 #include "CliTestSupport.h"
 #include "records/ProgramRecord.h"
+#include "store/ExtrasFile.h"
 #include "store/RecordStore.h"
 
 #include <QDir>
@@ -26,11 +27,11 @@ namespace {
 constexpr int kCompanies = 30;
 constexpr int kRuns = 40;
 
-// The record files of a home, by name.
+// The record files of a home and their companions, by name.
 using RecordFiles = QMap<QString, QByteArray>;
 
 RecordFiles recordFiles(const QString& home) {
-    static const QRegularExpression name(u"^(company|[1-9][0-9]*)\\.dta$"_s);
+    static const QRegularExpression name(u"^(company|[1-9][0-9]*)\\.(dta|extra\\.json)$"_s);
     RecordFiles files;
     const QDir data(home + u"/data"_s);
     for (const QString& f : data.entryList(QDir::Files | QDir::Hidden))
@@ -53,7 +54,8 @@ void copyFolder(const QString& from, const QString& to) {
     }
 }
 
-// Companies C1 to C30, each with two programs (Pna and Pnb).
+// Companies C1 to C30, each with two programs (Pna and Pnb); every third company and its
+// second program have fields beyond the 1.15 records, one a text Windows-1252 cannot hold.
 void manyRecords(const TempHome& t) {
     for (int c = 1; c <= kCompanies; ++c) {
         const QByteArray name = "C" + QByteArray::number(c);
@@ -61,6 +63,16 @@ void manyRecords(const TempHome& t) {
         for (const char* suffix : {"a", "b"}) {
             const QByteArray program = "P" + QByteArray::number(c) + suffix;
             ASSERT_EQ(run(t, "new-program", "-c", name.constData(), program.constData()).status, 0);
+        }
+        if (c % 3 == 0) {
+            const QString n = QString::number(c);
+            const CliResult set =
+                runCliAt(t.path(),
+                         QStringList{u"set"_s, u"-c"_s, QString::fromLatin1(name), u"-p"_s,
+                                     u"P"_s + n + u"b"_s, u"LinkedinPage=https://in.example/"_s + n,
+                                     u"Headline=The headline of program "_s + n,
+                                     u"ChangeInfo=Исправления "_s + n});
+            ASSERT_EQ(set.status, 0) << set.err.toStdString();
         }
     }
 }
@@ -73,6 +85,19 @@ void expectWholeAndStamped(const QString& home) {
     const int companies = store.companyCount();
     EXPECT_EQ(QFileInfo(data.filePath(u"company.dta"_s)).size() % 842, 0);
     for (const QString& f : data.entryList(QDir::Files | QDir::Hidden)) {
+        if (f.endsWith(QLatin1String(".extra.json"))) {
+            // A companion belongs to a record file, and each entry to a record of it.
+            const QString records = f.chopped(11) + u".dta"_s;
+            ASSERT_TRUE(data.exists(records)) << f.toStdString();
+            QStringList problems;
+            ExtrasFile extras = ExtrasFile::parse(readBytes(data.filePath(f)), &problems);
+            EXPECT_TRUE(problems.isEmpty()) << problems.join(u'\n').toStdString();
+            const QStringList names = records == QLatin1String("company.dta")
+                                          ? store.companyNames()
+                                          : store.programNames(records.chopped(4).toInt());
+            EXPECT_TRUE(extras.matchRecords(names).empty()) << f.toStdString();
+            continue;
+        }
         if (f == QLatin1String("company.dta"))
             continue;
         bool number = false;
@@ -164,6 +189,13 @@ TempHome* KilledCommands::s_template = nullptr;
 TEST_F(KilledCommands, SetOfACompanyAndAProgramField) {
     killRuns(words({"set", "-c", "C12", "-p", "P12b", "CityTown=Harbour", "ProgramVersion=9.9"}),
              11);
+}
+
+TEST_F(KilledCommands, SetOfFieldsBeyondThe115Records) {
+    killRuns(
+        words({"set", "-c", "C12", "-p", "P12b", "TwitterCompanyPage=https://t.example/12",
+               "Program_Category_Class=Business::Databases & Tools", "ChangeInfo=Новые отчёты"}),
+        17);
 }
 
 TEST_F(KilledCommands, NewProgram) {

@@ -77,17 +77,25 @@ TEST(RecordStore, CrashLeftoversAreClearedAndOrphansSetAside) {
     RecordStore store(t.home());
     addCompany(store, 1, 1);
     addCompany(store, 2, 1);
-    for (const char* name : {"2.dta.TiBxhS", "deletion.intent.AseIiT", "company.dta.x1Y2z3"})
+    for (const char* name :
+         {"2.dta.TiBxhS", "deletion.intent.AseIiT", "company.dta.x1Y2z3", "1.extra.json.Qw3rTy"})
         writeBytes(t.file(u"data/"_s + QLatin1String(name)), "half");
     writeBytes(t.file(u"data/7.dta"_s), readBytes(t.file(u"data/2.dta"_s)));
+    writeBytes(t.file(u"data/7.extra.json"_s), readBytes(t.file(u"data/2.extra.json"_s)));
     writeBytes(t.file(u"data/notes.txt"_s), "mine");
     const QStringList report = store.clearCrashLeftovers();
-    ASSERT_EQ(report.size(), 1);
+    ASSERT_EQ(report.size(), 2);
     EXPECT_TRUE(report[0].contains(u"7.dta.orphaned"_s));
-    EXPECT_EQ(dataFiles(t), u"1.dta 2.dta 7.dta.orphaned company.dta notes.txt"_s);
+    EXPECT_TRUE(report[1].contains(u"7.extra.json.orphaned"_s));
+    EXPECT_EQ(dataFiles(t), u"1.dta 1.extra.json 2.dta 2.extra.json 7.dta.orphaned "
+                            u"7.extra.json.orphaned company.dta company.extra.json notes.txt"_s);
     EXPECT_TRUE(store.damage().isEmpty());
     writeBytes(t.file(u"data/company.dta"_s), QByteArray(100, ' '));
-    EXPECT_EQ(store.damage().size(), 1);
+    // The damaged file, and the companion entries of the two companies it no longer names.
+    const QStringList damage = store.damage();
+    ASSERT_EQ(damage.size(), 3);
+    EXPECT_TRUE(damage[0].contains(u"company.dta"_s));
+    EXPECT_TRUE(damage[1].contains(u"\"A\" belong to no record"_s));
 }
 
 // A lock nobody holds any more is taken over: an empty or unreadable one (a writer killed while
@@ -131,6 +139,7 @@ TEST(RecordStore, BatchedChangesGoInTogether) {
     RecordStore store(t.home());
     addCompany(store, 1, 2);
     const QByteArray companies = readBytes(t.home().companyFile());
+    const QByteArray companyExtras = readBytes(t.file(u"data/company.extra.json"_s));
     const QByteArray programs = readBytes(t.home().programFile(1));
 
     store.beginBatch();
@@ -147,21 +156,27 @@ TEST(RecordStore, BatchedChangesGoInTogether) {
     EXPECT_EQ(fresh.companyNames(), (QStringList{u"A"_s, u"B"_s}));
     EXPECT_EQ(fresh.programNames(2), (QStringList{u"B-1"_s, u"B-2"_s, u"B-3"_s}));
     EXPECT_FALSE(QFile::exists(t.home().programFile(1)));
-    EXPECT_EQ(dataFiles(t), u"2.dta company.dta"_s);
+    EXPECT_EQ(dataFiles(t), u"2.dta 2.extra.json company.dta company.extra.json"_s);
+    ProgramRecord added;
+    ASSERT_TRUE(fresh.readProgram(2, 3, added));
+    EXPECT_EQ(added.laterValue(u"Headline"_s), programHeadline(u"B-3"_s));
 
     // Killed after the new files and the intent were written: the next start completes.
     writeBytes(t.file(u"data/company.dta.pending"_s), companies);
+    writeBytes(t.file(u"data/company.extra.json.pending"_s), companyExtras);
     writeBytes(t.file(u"data/1.dta.pending"_s), programs);
-    writeBytes(t.home().saveIntentFile(), "save\nwrite company.dta\nwrite 1.dta\nremove 2.dta\n");
+    writeBytes(t.home().saveIntentFile(), "save\nwrite company.dta\nwrite company.extra.json\n"
+                                          "write 1.dta\nremove 2.dta\nremove 2.extra.json\n");
     ASSERT_TRUE(fresh.completeInterruptedDeletion()) << fresh.errorString().toStdString();
     EXPECT_EQ(readBytes(t.home().companyFile()), companies);
     EXPECT_EQ(readBytes(t.home().programFile(1)), programs);
-    EXPECT_EQ(dataFiles(t), u"1.dta company.dta"_s);
+    EXPECT_EQ(dataFiles(t), u"1.dta company.dta company.extra.json"_s);
+    EXPECT_TRUE(fresh.damage().isEmpty()) << fresh.damage().join(u'\n').toStdString();
 
     // Killed before the intent: the half-made new file goes, the data stays.
     writeBytes(t.file(u"data/1.dta.pending"_s), "half");
     EXPECT_TRUE(fresh.clearCrashLeftovers().isEmpty());
-    EXPECT_EQ(dataFiles(t), u"1.dta company.dta"_s);
+    EXPECT_EQ(dataFiles(t), u"1.dta company.dta company.extra.json"_s);
 
     // An intent naming a file outside the data is refused and changes nothing.
     for (const char* bad : {"save\nwrite ../x.dta\n", "save\nremove /etc/passwd\n", "write 1.dta\n",
