@@ -14,6 +14,7 @@
 #include "window/KeywordsDialog.h"
 #include "window/MainWindow.h"
 #include "window/SiteListDialog.h"
+#include "window/SpellingView.h"
 #include "window/SubmissionPluginLoader.h"
 
 #include <QAction>
@@ -21,10 +22,14 @@
 #include <QCursor>
 #include <QDialog>
 #include <QDir>
+#include <QMenu>
+#include <QPainter>
+#include <QPlainTextEdit>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 
 using namespace brevaro;
 
@@ -34,6 +39,50 @@ bool save(QWidget& w, const QString& dir, const char* name) {
     QTest::qWait(150);
     const QString path = dir + u'/' + QLatin1String(name) + QStringLiteral(".png");
     if (!w.grab().save(path)) {
+        qWarning("could not write %s", qPrintable(path));
+        return false;
+    }
+    return true;
+}
+
+// A description with a misspelt word typed into it and the word's context menu open over it,
+// in a window tall enough for the menu. The menu is a window of its own, so it is drawn onto the
+// main window's picture where it stands.
+bool saveSpelling(MainWindow& window, const QString& dir) {
+    auto* box = qobject_cast<QPlainTextEdit*>(window.view().widget(u"txt250char", 0));
+    if (!box)
+        return false;
+    const QSize size = window.size();
+    window.resize(size.width(), std::max(size.height(), 720));
+    const QString before = box->toPlainText();
+    box->setFocus();
+    box->moveCursor(QTextCursor::End);
+    QTest::keyClicks(box, QStringLiteral(" Every change is saved automaticaly."));
+    QTest::qWait(300);
+    QTextCursor word(box->document());
+    word.setPosition(int(box->toPlainText().indexOf(QStringLiteral("automaticaly")) + 4));
+    const QRect caret = box->cursorRect(word);
+    std::unique_ptr<QMenu> menu(window.spelling().contextMenu(box, caret.center()));
+    // Just below the word, so that its underline shows.
+    menu->popup(box->viewport()->mapToGlobal(caret.bottomLeft() + QPoint(0, 4)));
+    QTest::qWait(300);
+    // Inside the window, so that the picture holds all of it.
+    const QRect inside = QRect(window.mapToGlobal(QPoint(0, 0)), window.size());
+    QRect placed = menu->geometry();
+    placed.moveBottom(std::min(placed.bottom(), inside.bottom() - 4));
+    placed.moveRight(std::min(placed.right(), inside.right() - 4));
+    menu->move(placed.topLeft());
+    QTest::qWait(150);
+    QPixmap shot = window.grab();
+    {
+        QPainter painter(&shot);
+        painter.drawPixmap(window.mapFromGlobal(menu->pos()), menu->grab());
+    }
+    menu->close();
+    box->setPlainText(before);
+    window.resize(size);
+    const QString path = dir + QStringLiteral("/spelling.png");
+    if (!shot.save(path)) {
         qWarning("could not write %s", qPrintable(path));
         return false;
     }
@@ -128,6 +177,8 @@ int main(int argc, char* argv[]) {
         tabs->setCurrentIndex(i);
         ok &= save(window, out, names[i]);
     }
+    tabs->setCurrentIndex(2);
+    ok &= saveSpelling(window, out);
     // The PAD check's findings, from the Tools menu.
     window.findChild<QAction*>(QStringLiteral("mnuTools_4"))->trigger();
     if (auto* check = window.findChild<QDialog*>(QStringLiteral("frmPadCheck")))

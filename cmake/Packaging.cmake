@@ -75,4 +75,8 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The platform plugins and the SVG icon engine are loaded at run time, so the computed
 # dependencies cannot see them.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, libqt6svg6, libqt6webenginecore6-bin")
+# The spelling dictionaries of the description languages (Japanese and Chinese have none); each
+# missing one only leaves its language unchecked.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
+    "hunspell-en-us, hunspell-es, hunspell-fr, hunspell-de-de, hunspell-it, hunspell-ru")
 include(CPack)

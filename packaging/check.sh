@@ -110,6 +110,7 @@ completion() {
         [ "$(complete_words brevaro-cli p)" = pad ] || exit 1
         [ "$(complete_words brevaro-cli --home /tmp ver)" = verify ] || exit 1
         [ "$(complete_words brevaro-cli pad -)" = "-c -p -o --format --check" ] || exit 1
+        [ "$(complete_words brevaro-cli check -)" = "-c -p --format --json --no-spelling" ] || exit 1
         [ "$(complete_words brevaro-cli --v)" = --version ] || exit 1' _ \
         "$root/usr/share/bash-completion/completions/brevaro-cli"
 }

@@ -28,7 +28,7 @@ void SpellingLineEdit::paintEvent(QPaintEvent* event) {
         return;
     const QRect caret = cursorRect();
     const qreal origin = caret.left() + 5 - line.cursorToX(cursorPosition());
-    const qreal baseline = caret.top() + fontMetrics().ascent() + 2;
+    const qreal baseline = caret.top() + fontMetrics().ascent() + 3;
     const QRect inside = rect().adjusted(2, 0, -2, 0);
     QPainter painter(this);
     painter.setClipRect(inside);
