@@ -46,6 +46,20 @@ constexpr auto kFields = std::to_array<ExtraField>({
     {"NewsFeed_Description_70", P, K::Text, 70, "Feed description (70)", "NewsFeed_Description_70"},
     {"NewsFeed_Description_250", P, K::Text, 250, "Feed description (250)",
      "NewsFeed_Description_250"},
+
+    // What a release needs: where its files are published ({version} and {file} are replaced),
+    // the SHA-256 of the file of each download address (primary, secondary, additional 1 and
+    // 2), the releases so far (one "VERSION DATE" line each, newest first) and the package
+    // manager's identifier, installer type and the architecture of each download.
+    {"Download_URL_Pattern", P, K::Text, 200, "Download address pattern"},
+    {"Download_SHA256_1", P, K::Text, 64, "SHA-256 of the primary download"},
+    {"Download_SHA256_2", P, K::Text, 64, "SHA-256 of the secondary download"},
+    {"Download_SHA256_3", P, K::Text, 64, "SHA-256 of additional download 1"},
+    {"Download_SHA256_4", P, K::Text, 64, "SHA-256 of additional download 2"},
+    {"Release_History", P, K::LongText, 4000, "Release history"},
+    {"Package_Identifier", P, K::Text, 128, "Package manager identifier"},
+    {"Installer_Type", P, K::Choice, 10, "Installer type"},
+    {"Installer_Architectures", P, K::TokenList, 40, "Installer architectures"},
 });
 
 QStringList readList(const QString& name) {
@@ -92,6 +106,14 @@ QStringList extraFieldChoices(const ExtraField& field) {
     if (name == QLatin1String("Linux_Packages"))
         return {QStringLiteral("deb"),     QStringLiteral("rpm"),  QStringLiteral("AppImage"),
                 QStringLiteral("Flatpak"), QStringLiteral("Snap"), QStringLiteral("tar.gz")};
+    if (name == QLatin1String("Installer_Type"))
+        return {QStringLiteral("exe"),     QStringLiteral("msi"),  QStringLiteral("msix"),
+                QStringLiteral("appx"),    QStringLiteral("inno"), QStringLiteral("nullsoft"),
+                QStringLiteral("wix"),     QStringLiteral("burn"), QStringLiteral("zip"),
+                QStringLiteral("portable")};
+    if (name == QLatin1String("Installer_Architectures"))
+        return {QStringLiteral("x86"), QStringLiteral("x64"), QStringLiteral("arm"),
+                QStringLiteral("arm64"), QStringLiteral("neutral")};
     if (name == QLatin1String("NewsFeed_Type"))
         return {QStringLiteral("RSS 0.90"), QStringLiteral("RSS 0.91"), QStringLiteral("RSS 0.92"),
                 QStringLiteral("RSS 0.93"), QStringLiteral("RSS 0.94"), QStringLiteral("RSS 1.0"),
