@@ -10,6 +10,7 @@ CliArgs::CliArgs(const QStringList& words, const QSet<QString>& valueOptions,
             if (i + 1 >= words.size())
                 throw CliError{1, QStringLiteral("%1 needs a value").arg(w)};
             m_values.insert(w, words[++i]);
+            m_repeated[w] << words[i];
         } else if (flags.contains(w)) {
             m_flags.insert(w);
         } else if (w.startsWith(u'-') && w.size() > 1 && !w.at(1).isDigit()) {

@@ -22,12 +22,15 @@ public:
         return m_values.contains(option) || m_flags.contains(option);
     }
     QString value(const QString& option) const { return m_values.value(option); }
+    // Every value of an option given more than once, in the order given.
+    QStringList values(const QString& option) const { return m_repeated.value(option); }
     const QStringList& positional() const { return m_positional; }
     // The option's value; a usage error when it is missing.
     QString required(const QString& option) const;
 
 private:
     QMap<QString, QString> m_values;
+    QMap<QString, QStringList> m_repeated;
     QSet<QString> m_flags;
     QStringList m_positional;
 };

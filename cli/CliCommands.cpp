@@ -17,6 +17,12 @@ const std::vector<CliCommand>& cliCommands() {
         {"check", "check -c COMPANY -p PROGRAM [--format 1.15|3.11|4.0] [--json] [--no-spelling]",
          checkCommand},
         {"import", "import FILE...", importCommand},
+        {"release",
+         "release -c COMPANY -p PROGRAM --version V --file DIST [--file DIST2 ...] [--date "
+         "YYYY-MM-DD] [--changes TEXT] [--out DIR] [--dry-run] [--verify-urls]",
+         releaseCommand},
+        {"export", "export --format appstream|winget|jsonld -c COMPANY -p PROGRAM [-o FILE|DIR]",
+         exportCommand},
         {"keywords", "keywords (URL | --file FILE)", keywordsCommand},
         {"sites", "sites (URL | --file FILE)", sitesCommand},
         {"encipher-sites", "encipher-sites  < plain name|url lines", encipherSitesCommand},

@@ -40,6 +40,9 @@ void refusePadWithErrors(const CompanyRecord& company, const ProgramRecord& prog
                          PadVersion version);
 // The version --format names; 1.15 without it, a usage error for any other text.
 PadVersion formatOption(const CliArgs& args);
+// Release commands.
+int releaseCommand(CliContext& ctx, const QStringList& words);
+int exportCommand(CliContext& ctx, const QStringList& words);
 // Network commands.
 int keywordsCommand(CliContext& ctx, const QStringList& words);
 int sitesCommand(CliContext& ctx, const QStringList& words);

@@ -6,28 +6,13 @@
 #include "platform/FileNames.h"
 #include "platform/StringHelpers.h"
 #include "platform/TextFiles.h"
+#include "release/DistributionFile.h"
 #include "session/DefaultTexts.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 namespace brevaro {
-
-namespace {
-
-// Sizes shown with half away from zero rounding and a "." whatever the locale.
-QString kilobytes(qint64 bytes) {
-    return QString::number((2 * bytes + 1024) / 2048);
-}
-
-QString megabytes(qint64 bytes) {
-    const qint64 hundredths = (200 * bytes + 1048576) / 2097152;
-    return QStringLiteral("%1.%2")
-        .arg(hundredths / 100)
-        .arg(hundredths % 100, 2, 10, QLatin1Char('0'));
-}
-
-} // namespace
 
 ProgramTabTools::ProgramTabTools(SessionCore& core)
     : m_core(core) {}
@@ -45,17 +30,14 @@ void ProgramTabTools::openFileInfo() {
         return;
     const qint64 length = std::max<qint64>(0, fileSize(*chosen));
     const QString title = QFileInfo(*chosen).fileName();
-    const QString base = GetFileBaseName(title, QStringLiteral("\\"));
-    const QString extension = GetFileExtension(title);
-    const QString name6 = base.left(6);
-    const QString ver2 = removeAll(m_core.text(u"txtProgramVersion"), u".").left(2);
-    m_core.replaceText(u"txtVersionedFilename", name6 + ver2 + u'.' + extension);
-    m_core.replaceText(u"txtPreviousFilename", name6 + ver2 + u'.' + extension);
-    m_core.replaceText(u"txtGenericFilename", name6 + u'.' + extension);
-    m_core.replaceText(u"txtLongFilename", title);
-    m_core.replaceText(u"txtSizeByte", QString::number(length));
-    m_core.replaceText(u"txtSizeKB", kilobytes(length));
-    m_core.replaceText(u"txtSizeMB", megabytes(length));
+    const FileInfoValues v = fileInfoValues(title, length, m_core.text(u"txtProgramVersion"));
+    m_core.replaceText(u"txtVersionedFilename", v.versioned);
+    m_core.replaceText(u"txtPreviousFilename", v.previous);
+    m_core.replaceText(u"txtGenericFilename", v.generic);
+    m_core.replaceText(u"txtLongFilename", v.longName);
+    m_core.replaceText(u"txtSizeByte", v.bytes);
+    m_core.replaceText(u"txtSizeKB", v.kilobytes);
+    m_core.replaceText(u"txtSizeMB", v.megabytes);
 }
 
 void ProgramTabTools::expiryCheckClicked() {

@@ -1,0 +1,208 @@
+#include "CliCommands.h"
+
+#include "platform/FileHelpers.h"
+#include "platform/StringHelpers.h"
+#include "release/OnlineCheck.h"
+#include "release/ReleaseOutputs.h"
+#include "release/ReleaseStep.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+namespace brevaro::cli {
+
+namespace {
+
+QString shown(const QString& value) {
+    if (value.isEmpty())
+        return QStringLiteral("(empty)");
+    QString one = value;
+    one.replace(QStringLiteral("\r\n"), QStringLiteral("; ")).replace(u'\n', QStringLiteral("; "));
+    return escapeControls(one);
+}
+
+QDate dateOption(const CliArgs& args) {
+    if (!args.has(QStringLiteral("--date")))
+        return QDate::currentDate();
+    const QDate date =
+        QDate::fromString(args.value(QStringLiteral("--date")), QStringLiteral("yyyy-MM-dd"));
+    if (!date.isValid())
+        throw CliError{2, QStringLiteral("--date takes a date as YYYY-MM-DD, not %1")
+                              .arg(args.value(QStringLiteral("--date")))};
+    return date;
+}
+
+ReleaseInput releaseInput(const CliArgs& args) {
+    ReleaseInput input;
+    input.version = args.required(QStringLiteral("--version"));
+    for (const QString& path : args.values(QStringLiteral("--file"))) {
+        DistributionFile file;
+        QString error;
+        if (!readDistributionFile(path, &file, &error))
+            throw CliError{2, error};
+        input.files.push_back(file);
+    }
+    input.date = dateOption(args);
+    if (args.has(QStringLiteral("--changes")))
+        input.changes = args.value(QStringLiteral("--changes"));
+    if (const QString problem = releaseInputProblem(input); !problem.isEmpty())
+        throw CliError{2, problem};
+    return input;
+}
+
+// Puts the released program on the screen as the window shows it and saves it as Save does,
+// so that the store writes company and program in the command's one save.
+void saveReleased(CliContext& ctx, const ProgramRecord& released) {
+    EditingSession& s = ctx.session();
+    s.program() = released;
+    s.transfer().ProgramToScreen();
+    s.navigation().SetProgramDirty();
+    const ControlAction save =
+        s.state().CompanyDirty ? ControlAction::SaveCompany : ControlAction::SaveProgram;
+    const CommandResult result = s.trigger(save);
+    if (result.outcome != CommandResult::Outcome::Done)
+        throw CliError{2, QStringLiteral("the release could not be saved: ") + result.reason};
+    ctx.failOnMessages();
+    ctx.finish();
+}
+
+void printFindings(CliContext& ctx, const std::vector<Output>& outputs) {
+    for (const Output& o : outputs)
+        for (const OutputFinding& f : o.findings)
+            ctx.print(
+                QStringLiteral("%1: %2: %3%4\n")
+                    .arg(f.severity == OutputFinding::Severity::Error ? QStringLiteral("error")
+                                                                      : QStringLiteral("warning"),
+                         f.output, f.field.isEmpty() ? QString() : f.field + QStringLiteral(": "),
+                         escapeControls(f.message)));
+}
+
+bool anyErrors(const std::vector<Output>& outputs) {
+    return std::any_of(outputs.begin(), outputs.end(),
+                       [](const Output& o) { return hasErrors(o.findings); });
+}
+
+// Every download address of the release with its file, and the PAD file's own address with
+// the PAD file as written.
+std::vector<OnlineTarget> onlineTargets(const ProgramRecord& program, const ReleaseInput& input,
+                                        const QString& padPath) {
+    std::vector<OnlineTarget> targets;
+    for (std::size_t slot = 0; slot < input.files.size(); ++slot)
+        if (const QString url = program.wholeText(downloadAddressField(static_cast<int>(slot)));
+            !url.isEmpty())
+            targets.push_back({url, input.files[slot].path});
+    if (const QString pad =
+            program.wholeText(static_cast<int>(ProgramField::ApplicationXMLFileURL));
+        !pad.isEmpty())
+        targets.push_back({pad, padPath});
+    return targets;
+}
+
+} // namespace
+
+int releaseCommand(CliContext& ctx, const QStringList& words) {
+    const CliArgs args(words,
+                       {QStringLiteral("-c"), QStringLiteral("-p"), QStringLiteral("--version"),
+                        QStringLiteral("--file"), QStringLiteral("--date"),
+                        QStringLiteral("--changes"), QStringLiteral("--out")},
+                       {QStringLiteral("--dry-run"), QStringLiteral("--verify-urls")});
+    if (!args.positional().isEmpty())
+        throw CliError{1, QStringLiteral("unexpected argument %1").arg(args.positional().front())};
+    if (args.values(QStringLiteral("--file")).isEmpty())
+        throw CliError{1, QStringLiteral("give at least one --file DIST")};
+    const bool dryRun = args.has(QStringLiteral("--dry-run"));
+    const ReleaseInput input = releaseInput(args);
+    EditingSession& s = dryRun ? ctx.readingSession() : ctx.session();
+    const int c = ctx.company(args.required(QStringLiteral("-c")));
+    ctx.select(c, ctx.program(ctx.companyId(c), args.required(QStringLiteral("-p"))));
+
+    const ReleasePlan plan = planRelease(s.program(), input);
+    ctx.print(QStringLiteral("%1 %2: %3\n")
+                  .arg(s.program().wholeText(static_cast<int>(ProgramField::ProgramName)),
+                       input.version,
+                       plan.changes.empty()
+                           ? QStringLiteral("nothing changes")
+                           : QStringLiteral("%1 field(s) change").arg(plan.changes.size())));
+    for (const ReleaseChange& change : plan.changes)
+        ctx.print(QStringLiteral("  %1: %2 -> %3\n")
+                      .arg(change.field, shown(change.before), shown(change.after)));
+    for (const QString& note : plan.notes)
+        ctx.print(QStringLiteral("note: %1\n").arg(note));
+    if (!dryRun && !plan.changes.empty())
+        saveReleased(ctx, plan.program);
+
+    const std::vector<Output> outputs =
+        buildAllOutputs(s.company(), plan.program, s.text(u"lblOrganization", 0));
+    QTemporaryDir scratch;
+    const QString folder = dryRun ? scratch.path()
+                           : args.has(QStringLiteral("--out"))
+                               ? QFileInfo(args.value(QStringLiteral("--out"))).absoluteFilePath()
+                               : programOutputFolder(ctx.home().padFolder(), s.company());
+    std::vector<WrittenFile> written;
+    QString error;
+    if (!writeOutputFiles(folder, outputs, &written, &error))
+        throw CliError{2, error};
+    for (const WrittenFile& w : written)
+        if (dryRun)
+            ctx.print(QStringLiteral("would write: %1\n").arg(QFileInfo(w.path).fileName()));
+        else
+            ctx.print(QStringLiteral("%1: %2\n")
+                          .arg(w.changed ? QStringLiteral("written") : QStringLiteral("unchanged"),
+                               w.path));
+    printFindings(ctx, outputs);
+    bool online = true;
+    if (args.has(QStringLiteral("--verify-urls"))) {
+        OnlineCheck check;
+        const auto results = check.run(onlineTargets(plan.program, input, written.front().path));
+        for (const OnlineResult& r : results)
+            ctx.print(QStringLiteral("%1: %2 (%3)\n")
+                          .arg(outcomeName(r.outcome), r.url, escapeControls(r.detail)));
+        online = allMatch(results);
+    }
+    return anyErrors(outputs) || !online ? kCheckFoundErrors : 0;
+}
+
+int exportCommand(CliContext& ctx, const QStringList& words) {
+    const CliArgs args(words,
+                       {QStringLiteral("-c"), QStringLiteral("-p"), QStringLiteral("-o"),
+                        QStringLiteral("--format")},
+                       {});
+    if (!args.positional().isEmpty())
+        throw CliError{1, QStringLiteral("unexpected argument %1").arg(args.positional().front())};
+    const QString name = args.required(QStringLiteral("--format"));
+    const auto format = outputFormatFromName(name);
+    if (!format || *format == OutputFormat::Pad115 || *format == OutputFormat::Pad40)
+        throw CliError{
+            1, QStringLiteral("--format takes appstream, winget or jsonld, not %1").arg(name)};
+    EditingSession& s = ctx.readingSession();
+    const int c = ctx.company(args.required(QStringLiteral("-c")));
+    ctx.select(c, ctx.program(ctx.companyId(c), args.required(QStringLiteral("-p"))));
+    const Output output = buildOutput(*format, s.company(), s.program(), QString());
+    for (const OutputFinding& f : output.findings)
+        ctx.warn(QStringLiteral("%1: %2%3")
+                     .arg(f.severity == OutputFinding::Severity::Error ? QStringLiteral("error")
+                                                                       : QStringLiteral("warning"),
+                          f.field.isEmpty() ? QString() : f.field + QStringLiteral(": "),
+                          f.message));
+    if (!args.has(QStringLiteral("-o"))) {
+        // Several files: one YAML stream of documents.
+        for (std::size_t i = 0; i < output.files.size(); ++i)
+            ctx.printBytes((i > 0 ? QByteArray("---\n") : QByteArray()) + output.files[i].bytes);
+    } else if (output.files.size() == 1) {
+        QString error;
+        if (!writeFileAtomically(args.value(QStringLiteral("-o")), output.files.front().bytes,
+                                 &error))
+            throw CliError{2, QStringLiteral("%1 cannot be written: %2")
+                                  .arg(args.value(QStringLiteral("-o")), error)};
+    } else {
+        // The manifests of one package go into the folder -o names.
+        std::vector<WrittenFile> written;
+        QString error;
+        if (!writeOutputFiles(args.value(QStringLiteral("-o")), {output}, &written, &error))
+            throw CliError{2, error};
+    }
+    return hasErrors(output.findings) ? kCheckFoundErrors : 0;
+}
+
+} // namespace brevaro::cli
