@@ -1,0 +1,83 @@
+// A release that writes every format beside brevaro-cli pad for the same product, each run as
+// a user runs it: the executable started on a home holding the product. The release should
+// take at most twice the time of pad.
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <benchmark/benchmark.h>
+
+namespace {
+
+bool runCli(const QString& home, const QStringList& args) {
+    QProcess p;
+    p.start(QStringLiteral(BREVARO_CLI), QStringList{QStringLiteral("--home"), home} + args);
+    const bool ok = p.waitForFinished(60000) && p.exitStatus() == QProcess::NormalExit &&
+                    p.exitCode() != 1 && p.exitCode() != 2;
+    if (!ok)
+        qWarning("%s", p.readAllStandardError().constData());
+    return ok;
+}
+
+// The sample product of the documentation's pictures, with the facts the other formats need,
+// and a distribution file of 3 MB.
+struct Product {
+    QTemporaryDir dir;
+    QString home = dir.filePath(QStringLiteral("home"));
+    QString dist = dir.filePath(QStringLiteral("harbour-notes-setup.exe"));
+    Product() {
+        runCli(home, {QStringLiteral("new-company"), QStringLiteral("Northwind Tools")});
+        runCli(home, {QStringLiteral("new-program"), QStringLiteral("-c"), QStringLiteral("1"),
+                      QStringLiteral("Harbour Notes")});
+        runCli(
+            home,
+            {QStringLiteral("set"), QStringLiteral("-c"), QStringLiteral("1"), QStringLiteral("-p"),
+             QStringLiteral("1"), QStringLiteral("ProgramVersion=2.4.1"),
+             QStringLiteral("CostDollars=19.95"),
+             QStringLiteral("CharDesc45[0]=Notes that follow you from port to port"),
+             QStringLiteral("CharDesc250[0]=Harbour Notes keeps notes, journals and lists in "
+                            "one outline."),
+             QStringLiteral("Keywords[0]=notes,outliner,journal,sync"),
+             QStringLiteral("ApplicationInfoURL=https://www.northwind.example/notes"),
+             QStringLiteral("ApplicationXMLFileURL=https://www.northwind.example/pad.xml"),
+             QStringLiteral("Application_Identifier=example.northwind.HarbourNotes"),
+             QStringLiteral("SPDX_License=LicenseRef-proprietary"),
+             QStringLiteral("Download_URL_Pattern=https://dl.northwind.example/{version}/{file}")});
+        QFile f(dist);
+        f.open(QIODevice::WriteOnly);
+        QByteArray block(64 * 1024, '\0');
+        for (int i = 0; i < 48; ++i) {
+            for (int j = 0; j < block.size(); ++j)
+                block[j] = static_cast<char>((i * 131 + j * 7) & 0xFF);
+            f.write(block);
+        }
+    }
+};
+
+void BM_PadCommand(benchmark::State& state) {
+    Product product;
+    const QString out = product.dir.filePath(QStringLiteral("pad.xml"));
+    for (auto _ : state)
+        if (!runCli(product.home,
+                    {QStringLiteral("pad"), QStringLiteral("-c"), QStringLiteral("1"),
+                     QStringLiteral("-p"), QStringLiteral("1"), QStringLiteral("-o"), out}))
+            state.SkipWithError("pad failed");
+}
+
+void BM_ReleaseEveryFormat(benchmark::State& state) {
+    Product product;
+    int n = 0;
+    for (auto _ : state) {
+        // Another version each time, so that every run saves and writes every file.
+        const QString version = QStringLiteral("2.5.%1").arg(n++);
+        if (!runCli(product.home,
+                    {QStringLiteral("release"), QStringLiteral("-c"), QStringLiteral("1"),
+                     QStringLiteral("-p"), QStringLiteral("1"), QStringLiteral("--version"),
+                     version, QStringLiteral("--file"), product.dist}))
+            state.SkipWithError("release failed");
+    }
+}
+
+BENCHMARK(BM_PadCommand)->Unit(benchmark::kMillisecond)->MinTime(2.0);
+BENCHMARK(BM_ReleaseEveryFormat)->Unit(benchmark::kMillisecond)->MinTime(2.0);
+
+} // namespace
