@@ -111,10 +111,27 @@ completion() {
         [ "$(complete_words brevaro-cli --home /tmp ver)" = verify ] || exit 1
         [ "$(complete_words brevaro-cli pad -)" = "-c -p -o --format --check" ] || exit 1
         [ "$(complete_words brevaro-cli check -)" = "-c -p --format --json --no-spelling" ] || exit 1
+        [ "$(complete_words brevaro-cli release -)" = \
+            "-c -p --version --file --date --changes --out --dry-run --verify-urls" ] || exit 1
+        [ "$(complete_words brevaro-cli export --format "")" = "appstream winget jsonld" ] || exit 1
         [ "$(complete_words brevaro-cli --v)" = --version ] || exit 1' _ \
         "$root/usr/share/bash-completion/completions/brevaro-cli"
 }
 check "bash completion" completion
+
+# A program's AppStream metainfo, as the unpacked brevaro-cli writes it, passes the validator.
+exported_metainfo() {
+    local h=$tmp/release-home
+    "$cli" --home "$h" new-company "Example Software" >/dev/null &&
+        "$cli" --home "$h" new-program -c 1 "Example Tool" >/dev/null &&
+        "$cli" --home "$h" set -c 1 -p 1 ProgramVersion=1.0 ReleaseMonth=11 ReleaseDay=24 \
+            ReleaseYear=2026 "CharDesc45[0]=Tool for examples" \
+            "CharDesc250[0]=Example Tool shows what a release writes for a product." \
+            Application_Identifier=com.example.ExampleTool >/dev/null &&
+        "$cli" --home "$h" export --format appstream -c 1 -p 1 -o "$tmp/tool.metainfo.xml" &&
+        appstreamcli validate --no-net "$tmp/tool.metainfo.xml"
+}
+check "exported metainfo" exported_metainfo
 
 echo "$passed passed, $failed failed"
 [ "$failed" -eq 0 ]
