@@ -108,12 +108,8 @@ void applyExtra(EditingSession& s, const Target& t, const FieldAssignment& a) {
         r.setLaterValue(t.extra, value);
         t.side == RecordSide::Company ? s.navigation().SetCompanyDirty()
                                       : s.navigation().SetProgramDirty();
-    } else if (screen.at(t.control).kind == ControlKind::ListBox) {
-        const QStringList tokens = value.split(u',', Qt::SkipEmptyParts);
-        for (int i = 0; i < screen.at(t.control).items.size(); ++i)
-            screen.setItemSelected(t.control, i, tokens.contains(screen.at(t.control).items[i]));
     } else {
-        screen.setText(t.control, value);
+        s.transfer().ShowExtra(t.control, value);
     }
 }
 

@@ -32,7 +32,15 @@ cli set -c 1 -p 1 ProgramVersion=2.4.1 ReleaseMonth=11 ReleaseDay=02 ReleaseYear
     ApplicationScreenshotURL=http://www.northwind.example/notes/shot.png \
     ApplicationXMLFileURL=http://www.northwind.example/notes/pad.xml \
     PrimaryDownloadURL=http://www.northwind.example/notes/hnotes241.zip
-build/bin/brevaro-cli --home "$tmp/home" pad -c 1 -p 1 -o "$tmp/harbour.xml" >/dev/null
+cli set -c 1 -p 1 LinkedinPage=https://www.linkedin.example/northwind \
+    TwitterCompanyPage=https://twitter.example/northwind \
+    "Program_Category_Class=Business::PIMS & Calendars" "Program_OS_Support=Linux,WinOther" \
+    Video_Link_1_URL=https://video.example/harbour-notes \
+    "Headline=Harbour Notes 2.4 syncs your notes between machines" \
+    "Summary=The outliner for notes, journals and lists now keeps every machine in step." \
+    NewsFeed_Feed_URL=https://www.northwind.example/news.xml "NewsFeed_Type=RSS 2.0"
+# The window imports the product from a PAD 4.0 file, which carries the later versions' fields.
+build/bin/brevaro-cli --home "$tmp/home" pad -c 1 -p 1 --format 4.0 -o "$tmp/harbour.xml" >/dev/null
 mkdir -p "$out"
 # The windows that fetch (keywords, site list, browser) use the demo maker's server.
 port=8765 # the port the demo data names

@@ -43,9 +43,15 @@ bool showsValue(ControlKind kind) {
 } // namespace
 
 TableBuilder& TableBuilder::add(const char* name, K kind, int index) {
+    add(QLatin1String(name), kind);
+    row().index = index;
+    return *this;
+}
+
+TableBuilder& TableBuilder::add(const QString& name, K kind) {
     ControlRow r;
-    r.name = QLatin1String(name);
-    r.index = index;
+    r.name = name;
+    r.index = -1;
     r.kind = kind;
     r.widget = defaultWidget(kind);
     m_rows.push_back(r);
@@ -111,6 +117,7 @@ std::vector<ControlRow> buildTable() {
     TableBuilder t;
     companyControls(t);
     programInfoControls(t);
+    laterVersionControls(t);
     descriptionControls(t);
     webAndAssociationControls(t);
     commandControls(t);

@@ -75,7 +75,8 @@ enum class ControlAction {
     SaveText,    // target: the box saved to a text file
     NextBanner,
     ClickBanner,
-    CheckPAD, // the findings of the PAD check, each leading to its field
+    CheckPAD,     // the findings of the PAD check, each leading to its field
+    CategoryMain, // the classes of the chosen main class fill the category class box
 };
 
 // The web pages that links open.

@@ -22,11 +22,21 @@ inline constexpr int kFieldWidth = -1;
 class TableBuilder {
 public:
     TableBuilder& add(const char* name, K kind, int index = -1);
+    TableBuilder& add(const QString& name, K kind);
     TableBuilder& company(CF f, int limit = 0) {
         return field(RecordSide::Company, int(f), 0, limit);
     }
     TableBuilder& program(PF f, int entry = 0, int limit = 0) {
         return field(RecordSide::Program, int(f), entry, limit);
+    }
+    // The control holds an extra field of side (ExtraFields.h); a text's limit is the field's.
+    TableBuilder& extra(RecordSide side, const char* name, int limit) {
+        row().side = side;
+        row().extra = QLatin1String(name);
+        row().limit = limit;
+        if (limit > 0)
+            row().hint = FocusHint::Counter;
+        return *this;
     }
     TableBuilder& mark(RecordSide side, unsigned on) {
         row().marks = side;
@@ -131,5 +141,6 @@ void webAndAssociationControls(TableBuilder& t);
 // Buttons, menus, links, frames and labels.
 void commandControls(TableBuilder& t);
 void frameAndLabelControls(TableBuilder& t);
+void laterVersionControls(TableBuilder& t);
 
 } // namespace brevaro::controltable

@@ -18,17 +18,14 @@ const ControlRow* rowNamed(const QString& objectName) {
     return nullptr;
 }
 
-} // namespace
-
-QString fieldLabel(RecordSide side, int field, int entry) {
-    const ControlRow* row = rowOf(side, field, entry);
+QString labelOf(const ControlRow* row) {
     if (!row)
         return QString();
     // A group of option buttons holds one field: its label is their captions together.
     if (row->kind == ControlKind::OptionButton) {
         QStringList captions;
         for (const ControlRow& r : mainWindowControls())
-            if (r.side == side && r.field == field)
+            if (r.side == row->side && r.field == row->field)
                 captions << r.caption;
         return captions.join(QStringLiteral(" / "));
     }
@@ -42,8 +39,7 @@ QString fieldLabel(RecordSide side, int field, int entry) {
     return QString();
 }
 
-QString fieldPlace(RecordSide side, int field, int entry) {
-    const ControlRow* row = rowOf(side, field, entry);
+QString placeOf(const ControlRow* row) {
     if (!row)
         return QString();
     if (row->place == Place::LanguagePage)
@@ -59,12 +55,24 @@ QString fieldPlace(RecordSide side, int field, int entry) {
     return tab + QStringLiteral(", ") + frame->caption;
 }
 
+} // namespace
+
+QString fieldLabel(RecordSide side, int field, int entry) {
+    return labelOf(rowOf(side, field, entry));
+}
+
+QString fieldPlace(RecordSide side, int field, int entry) {
+    return placeOf(rowOf(side, field, entry));
+}
+
 std::vector<PadFinding> withFieldLabels(std::vector<PadFinding> findings) {
     for (PadFinding& f : findings) {
-        if (f.field < 0)
-            continue;
-        f.label = fieldLabel(f.side, f.field, f.entry);
-        f.place = fieldPlace(f.side, f.field, f.entry);
+        const int extra = f.extra.isEmpty() ? -1 : controlOfExtra(f.side, f.extra);
+        const ControlRow* row = extra >= 0     ? &mainWindowControls()[std::size_t(extra)]
+                                : f.field >= 0 ? rowOf(f.side, f.field, f.entry)
+                                               : nullptr;
+        f.label = labelOf(row);
+        f.place = placeOf(row);
     }
     return findings;
 }

@@ -13,9 +13,8 @@ namespace brevaro {
 
 namespace {
 
-bool writeWin1252(const QString& path, const QString& text, QString* error) {
+bool writeBytes(const QString& path, const QByteArray& bytes, QString* error) {
     QSaveFile file(path);
-    const QByteArray bytes = toWin1252(text);
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
         return true;
     *error = QStringLiteral("%1 could not be written: %2")
@@ -39,14 +38,20 @@ QString companionFileName(const QString& padPath) {
 }
 
 bool writePadFiles(const CompanyRecord& company, const ProgramRecord& program,
-                   const QString& aspSite, const QString& path, QString* error) {
-    const QString pad = CreatePADText(company, program) + QStringLiteral("\r\n");
+                   const QString& aspSite, const QString& path, QString* error,
+                   PadVersion version) {
+    const QByteArray pad = padFileBytes(CreatePADText(company, program, version), version);
     const QString web = CreateWebInfo(company, program, aspSite) + QStringLiteral("\r\n");
     QString first, second;
-    const bool padOk = writeWin1252(path, pad, &first);
-    const bool webOk = writeWin1252(companionFileName(path), web, &second);
+    const bool padOk = writeBytes(path, pad, &first);
+    const bool webOk = writeBytes(companionFileName(path), toWin1252(web), &second);
     *error = QString(first + u'\n' + second).trimmed();
     return padOk && webOk;
+}
+
+PadVersion chosenPadVersion(const ProgramRecord& program) {
+    return padVersionFromText(program.laterValue(QStringLiteral("PAD_Version")))
+        .value_or(PadVersion::V1_15);
 }
 
 } // namespace brevaro

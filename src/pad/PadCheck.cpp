@@ -29,6 +29,7 @@ PadFinding finding(Severity severity, const PadWrittenValue& v, const QString& m
     f.side = v.side;
     f.field = v.field;
     f.entry = v.entry;
+    f.extra = v.extra;
     return f;
 }
 

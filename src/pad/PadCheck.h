@@ -23,6 +23,7 @@ struct PadFinding {
     RecordSide side = RecordSide::None;
     int field = -1;
     int entry = 0;
+    QString extra; // or the extra field that holds the value
 };
 
 // Checks what Create PAD would write for the two records in a version (1.15 against the 3.11

@@ -84,11 +84,18 @@ std::vector<PadWrittenValue> padWrittenValues(const CompanyRecord& company,
         const char* element = elementOf(row);
         switch (row.kind) {
         case LaterRowKind::Value:
-        case LaterRowKind::Extra:
         case LaterRowKind::OsTokens:
         case LaterRowKind::Languages:
         case LaterRowKind::CategoryClass:
             add(element, row.side, row.field, 0, laterValue(row, company, program, version));
+            // The systems, languages and class chosen for the later versions, if any.
+            if (row.kind != LaterRowKind::Value &&
+                !program.laterValue(QLatin1String(element)).isEmpty())
+                out.back().extra = QLatin1String(element);
+            break;
+        case LaterRowKind::Extra:
+            add(element, row.side, -1, 0, laterValue(row, company, program, version));
+            out.back().extra = QLatin1String(row.extra);
             break;
         case LaterRowKind::Expiry:
             for (const LaterExpiryValue& v : laterExpiryValues(program))

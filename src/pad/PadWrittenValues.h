@@ -16,6 +16,7 @@ struct PadWrittenValue {
     RecordSide side = RecordSide::None;
     int field = -1; // index into the record layout of side
     int entry = 0;  // entry of an array field (the description language)
+    QString extra;  // or the extra field the value comes from (ExtraFields.h)
 };
 
 // The author's values of the PAD document of the two records, in the writer's order: every

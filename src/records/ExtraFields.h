@@ -21,6 +21,16 @@ enum class ExtraKind {
     TokenList, // values of the field's list, separated by commas
 };
 
+// What a field is about, which decides where the window shows it.
+enum class ExtraGroup {
+    CompanyPages, // the company's pages elsewhere
+    Publishing,   // the program's PAD version, class, systems and languages of the later PADs
+    ProgramPages, // the program's pages and videos, and what stores know it by
+    Release,      // what a release computes (hashes, history): its dialog shows them
+    PressRelease,
+    NewsFeed,
+};
+
 struct ExtraField {
     const char* name;
     RecordSide side;
@@ -29,6 +39,8 @@ struct ExtraField {
     const char* caption;
     // The element a PAD 4.0 file writes it to; nullptr when no PAD version has one.
     const char* padElement = nullptr;
+    ExtraGroup group = ExtraGroup::Publishing;
+    const char* tip = "";
 };
 
 // The published value lists of PAD 3.11 and 4.0, built in from src/pad/lists.

@@ -125,6 +125,9 @@ void EditingSession::onClick(int control) {
     case ControlAction::ExpiryCheck:
         m_programTab.expiryCheckClicked();
         break;
+    case ControlAction::CategoryMain:
+        m_transfer.CategoryMainChosen(control);
+        break;
     case ControlAction::ExpiryOption:
         if (m_screen.at(control).value)
             m_programTab.expiryOptionClicked(r.index);

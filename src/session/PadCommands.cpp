@@ -31,10 +31,12 @@ namespace {
 // option groups apply as they do for typing.
 class ImportOntoScreen : public PadImportTarget {
 public:
-    ImportOntoScreen(SessionCore& core, CompanyCommands& companies, ProgramCommands& programs)
+    ImportOntoScreen(SessionCore& core, CompanyCommands& companies, ProgramCommands& programs,
+                     ScreenTransfer& transfer)
         : m_core(core)
         , m_companies(companies)
-        , m_programs(programs) {}
+        , m_programs(programs)
+        , m_transfer(transfer) {}
 
     void importCompany(const QString& name) override {
         const int selector = m_core.id(u"cboCompanyName");
@@ -69,16 +71,7 @@ public:
             recordOf(side).setLaterValue(name, value);
             return;
         }
-        ScreenModel& screen = m_core.screen;
-        if (screen.at(id).kind != ControlKind::ListBox) {
-            screen.setText(id, value);
-            return;
-        }
-        QStringList tokens = value.split(u',', Qt::SkipEmptyParts);
-        for (QString& t : tokens)
-            t = t.trimmed();
-        for (int i = 0; i < screen.at(id).items.size(); ++i)
-            screen.setItemSelected(id, i, tokens.contains(screen.at(id).items[i]));
+        m_transfer.ShowExtra(id, value);
     }
     void setFieldFlag(RecordSide side, int field, int entry, bool on) override {
         const int id = control(side, field, entry);
@@ -104,6 +97,7 @@ private:
     SessionCore& m_core;
     CompanyCommands& m_companies;
     ProgramCommands& m_programs;
+    ScreenTransfer& m_transfer;
 };
 
 } // namespace
@@ -133,7 +127,8 @@ CommandResult PadCommands::VerifyPAD() {
 
 bool PadCommands::writePadFiles(const QString& path, QString* error) {
     return brevaro::writePadFiles(m_core.company, m_core.program,
-                                  m_core.text(u"lblOrganization", 0), path, error);
+                                  m_core.text(u"lblOrganization", 0), path, error,
+                                  chosenPadVersion(m_core.program));
 }
 
 CommandResult PadCommands::CreatePADFile() {
@@ -169,15 +164,20 @@ CommandResult PadCommands::CreatePADFile() {
         return CommandResult::failed(error);
     }
     // The file is written as asked; what download sites would reject is said afterwards.
-    const auto findings = checkPad(m_core.company, m_core.program);
+    const PadVersion version = chosenPadVersion(m_core.program);
+    const auto findings = checkPad(m_core.company, m_core.program, version);
     const auto errors = std::count_if(findings.begin(), findings.end(), [](const PadFinding& f) {
         return f.severity == PadFinding::Severity::Error;
     });
     if (errors > 0)
         m_navigation.SimpleText(
-            QStringLiteral("The PAD file was written, but %1 of its values will make download "
+            QStringLiteral("The PAD %1 file was written, but %2 of its values will make download "
                            "sites reject it: Tools, Check PAD shows where.")
+                .arg(padVersionText(version))
                 .arg(errors));
+    else if (version != PadVersion::V1_15)
+        m_navigation.SimpleText(
+            QStringLiteral("The PAD %1 file was written.").arg(padVersionText(version)));
     return CommandResult::done();
 }
 
@@ -186,15 +186,18 @@ std::vector<PadFinding> PadCommands::checkScreen() {
     ProgramRecord program = m_core.program;
     m_transfer.screenInto(RecordSide::Company, company);
     m_transfer.screenInto(RecordSide::Program, program);
-    return withFieldLabels(checkPad(company, program));
+    return withFieldLabels(checkPad(company, program, chosenPadVersion(program)));
 }
 
 bool PadCommands::goToField(const PadFinding& finding) {
     ScreenModel& screen = m_core.screen;
     for (int id = 0; id < screen.count(); ++id) {
         const ControlRow& r = m_core.row(id);
-        if (r.side != finding.side || r.field != finding.field || r.side == RecordSide::None ||
-            (r.entry != finding.entry && r.kind != ControlKind::ListBox))
+        const bool holds = finding.extra.isEmpty()
+                               ? r.field == finding.field && r.field >= 0 &&
+                                     (r.entry == finding.entry || r.kind == ControlKind::ListBox)
+                               : r.extra == finding.extra;
+        if (r.side != finding.side || r.side == RecordSide::None || !holds)
             continue;
         const int tab = r.place == Place::LanguagePage ? 2 : r.placeIndex;
         const int tabs = m_core.id(u"SSTab1");
@@ -212,7 +215,7 @@ bool PadCommands::goToField(const PadFinding& finding) {
 
 bool PadCommands::importPadFile(const QString& path) {
     beginImport();
-    ImportOntoScreen target(m_core, m_companies, m_programs);
+    ImportOntoScreen target(m_core, m_companies, m_programs, m_transfer);
     m_notKept.clear();
     const bool accepted = ReadPADFile(target, m_core.prompts, readPadFileText(path), &m_notKept);
     m_core.prompts.pumpEvents();

@@ -4,6 +4,7 @@
 #include "platform/WebAddresses.h"
 #include "session/SessionCore.h"
 
+#include "records/ExtraFields.h"
 #include "records/ValueLists.h"
 
 namespace brevaro {
@@ -19,8 +20,42 @@ template <typename Fn> void ScreenTransfer::forEachControl(RecordSide side, Fn f
 
 namespace {
 
+constexpr auto kClassSeparator = u"::";
+
+// The classes of a main class, without the main class's name.
+QStringList classesOf(const QString& main) {
+    QStringList classes;
+    if (main.isEmpty())
+        return classes;
+    const QString prefix = main + kClassSeparator;
+    for (const QString& c : publishedList(PublishedList::Categories))
+        if (c.startsWith(prefix))
+            classes << c.mid(prefix.size());
+    return classes;
+}
+
+// The main classes of the published list, in its order.
+QStringList mainClasses() {
+    QStringList mains;
+    for (const QString& c : publishedList(PublishedList::Categories)) {
+        const QString main = c.section(QString::fromUtf16(kClassSeparator), 0, 0);
+        if (!mains.contains(main))
+            mains << main;
+    }
+    return mains;
+}
+
 // An extra field's control: a text, a choice, or the checked items of a list joined by commas.
-void screenToExtra(const ControlState& c, const ControlRow& s, FixedRecord& r) {
+// A choice made in two steps (its source is the first) is "first::second".
+void screenToExtra(const ScreenModel& screen, const ControlState& c, const ControlRow& s,
+                   FixedRecord& r) {
+    if (!s.source.isEmpty()) {
+        const QString first = screen.at(s.source).text;
+        r.setLaterValue(s.extra, first.isEmpty() || c.text.isEmpty()
+                                     ? QString()
+                                     : first + kClassSeparator + c.text);
+        return;
+    }
     if (s.kind != ControlKind::ListBox) {
         r.setLaterValue(s.extra, trimBlanks(c.text));
         return;
@@ -32,8 +67,14 @@ void screenToExtra(const ControlState& c, const ControlRow& s, FixedRecord& r) {
     r.setLaterValue(s.extra, checked.join(u','));
 }
 
-void extraToScreen(ScreenModel& screen, int id, const ControlRow& s, const FixedRecord& r) {
-    const QString value = r.laterValue(s.extra);
+void showExtra(ScreenModel& screen, int id, const ControlRow& s, const QString& value) {
+    if (!s.source.isEmpty()) {
+        const QString first = value.section(QString::fromUtf16(kClassSeparator), 0, 0);
+        screen.setText(screen.id(s.source), first);
+        screen.setItems(id, classesOf(first));
+        screen.setText(id, value.section(QString::fromUtf16(kClassSeparator), 1));
+        return;
+    }
     if (s.kind != ControlKind::ListBox) {
         screen.setText(id, value);
         return;
@@ -49,7 +90,7 @@ void extraToScreen(ScreenModel& screen, int id, const ControlRow& s, const Fixed
 void screenToRecord(const ScreenModel& screen, int id, const ControlRow& s, FixedRecord& r) {
     const ControlState& c = screen.at(id);
     if (!s.extra.isEmpty())
-        return screenToExtra(c, s, r);
+        return screenToExtra(screen, c, s, r);
     switch (s.kind) {
     case ControlKind::TextBox:
     case ControlKind::ComboBox: {
@@ -76,7 +117,7 @@ void screenToRecord(const ScreenModel& screen, int id, const ControlRow& s, Fixe
 
 void recordToScreen(ScreenModel& screen, int id, const ControlRow& s, FixedRecord& r) {
     if (!s.extra.isEmpty())
-        return extraToScreen(screen, id, s, r);
+        return showExtra(screen, id, s, r.laterValue(s.extra));
     switch (s.kind) {
     case ControlKind::TextBox:
     case ControlKind::ComboBox:
@@ -194,8 +235,34 @@ void ScreenTransfer::EnableProgramFields(bool enabled) {
     });
 }
 
+void ScreenTransfer::ShowExtra(int id, const QString& value) {
+    showExtra(m_core.screen, id, m_core.row(id), value);
+}
+
+void ScreenTransfer::CategoryMainChosen(int mainControl) {
+    for (int i = 0; i < m_core.screen.count(); ++i)
+        if (m_core.row(i).source == m_core.row(mainControl).name &&
+            !m_core.row(i).extra.isEmpty()) {
+            m_core.screen.setItems(i, classesOf(m_core.screen.at(mainControl).text));
+            m_core.screen.setText(i, QString());
+        }
+}
+
 void ScreenTransfer::LoadValueLists() {
     ScreenModel& screen = m_core.screen;
+    // The lists of the extra fields; a choice may also be left empty.
+    for (int i = 0; i < screen.count(); ++i) {
+        const ControlRow& r = m_core.row(i);
+        const ExtraField* field = r.extra.isEmpty() ? nullptr : extraField(r.extra);
+        if (!field || !r.source.isEmpty())
+            continue;
+        const QStringList choices = extraFieldChoices(*field);
+        screen.setItems(i, r.kind == ControlKind::ComboBox ? QStringList{QString()} + choices
+                                                           : choices);
+    }
+    for (int i = 0; i < screen.count(); ++i)
+        if (m_core.row(i).action == ControlAction::CategoryMain)
+            screen.setItems(i, QStringList{QString()} + mainClasses());
     for (const ValueList& list : valueLists()) {
         const int control = controlOfField(list.side, list.field);
         if (list.clearFirst || screen.at(control).items.isEmpty())

@@ -28,6 +28,10 @@ public:
     void ClearProgramRecord();
     void LoadValueLists();
     void SetToolTips();
+    // Shows value in the control of an extra field, as loading its record would.
+    void ShowExtra(int id, const QString& value);
+    // The main class of the category class was chosen: its classes fill the class box.
+    void CategoryMainChosen(int mainControl);
 
 private:
     template <typename Fn> void forEachControl(RecordSide side, Fn fn);

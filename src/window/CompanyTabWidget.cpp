@@ -12,9 +12,10 @@ CompanyTabWidget::CompanyTabWidget(ControlBindingView& view, QWidget* parent)
     grid->addWidget(frame(QStringLiteral("Frame2")), 0, 1);
     grid->addWidget(frame(QStringLiteral("Frame3")), 1, 1);
     grid->addWidget(frame(QStringLiteral("Frame4")), 2, 0, 1, 2);
+    grid->addWidget(frame(QStringLiteral("frmCompanyPages")), 3, 0, 1, 2);
     grid->setColumnStretch(0, 3);
     grid->setColumnStretch(1, 2);
-    grid->setRowStretch(3, 1);
+    grid->setRowStretch(4, 1);
 }
 
 } // namespace brevaro

@@ -93,11 +93,15 @@ QWidget* FormPageWidget::rowWidget(int id, const QString& frameName) {
     const ControlRow& r = m_view.row(id);
     QWidget* main = m_view.widget(id);
     QList<QWidget*> beside;
+    QList<QWidget*> nextSteps; // the second box of a choice made in two steps
     for (int other : m_view.ids()) {
         const ControlRow& o = m_view.row(other);
         if (o.beside == r.name && o.frame == frameName && o.place == Place::MainTab &&
-            !captionsItsRow(o) && m_view.widget(other))
+            !captionsItsRow(o) && m_view.widget(other)) {
             beside << m_view.widget(other);
+            if (o.source == r.name)
+                nextSteps << m_view.widget(other);
+        }
     }
     if (beside.isEmpty())
         return main;
@@ -115,7 +119,8 @@ QWidget* FormPageWidget::rowWidget(int id, const QString& frameName) {
         h->addLayout(column);
     } else {
         for (QWidget* b : beside)
-            h->addWidget(b, !grows && !qobject_cast<QAbstractButton*>(b) ? 1 : 0);
+            h->addWidget(
+                b, nextSteps.contains(b) || (!grows && !qobject_cast<QAbstractButton*>(b)) ? 1 : 0);
     }
     return row;
 }

@@ -1,9 +1,10 @@
 #include "window/ProgramTabWidget.h"
 
-#include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QListWidget>
 #include <QResizeEvent>
+#include <QVBoxLayout>
 
 namespace brevaro {
 
@@ -17,14 +18,30 @@ int twoColumnWidth(const QWidget& page) {
 } // namespace
 
 ProgramTabWidget::ProgramTabWidget(ControlBindingView& view, QWidget* parent)
-    : FormPageWidget(view, 1, parent)
-    , m_grid(new QGridLayout(this)) {
-    for (auto name : {"Frame7", "Frame8", "Frame9", "Frame10"})
+    : FormPageWidget(view, 1, parent) {
+    auto* columns = new QHBoxLayout(this);
+    columns->setContentsMargins(0, 0, 0, 0);
+    for (QVBoxLayout** column : {&m_left, &m_right}) {
+        auto* holder = new QWidget(this);
+        *column = new QVBoxLayout(holder);
+        (*column)->setContentsMargins(0, 0, 0, 0);
+        (*column)->addStretch();
+        columns->addWidget(holder, 1);
+    }
+    for (auto name : {"Frame7", "Frame8", "Frame9", "Frame10", "frmPublishing"})
         m_frames << frame(QString::fromLatin1(name));
-    // The two lists show a handful of entries and scroll.
-    for (auto name : {u"lstSupportedOS", u"lstLanguages"})
-        if (auto* list = qobject_cast<QListWidget*>(control(name)))
-            list->setMinimumHeight(list->fontMetrics().height() * 6);
+    // The lists show a handful of entries and scroll.
+    const std::pair<const char16_t*, int> lists[] = {{u"lstSupportedOS", 5},
+                                                     {u"lstLanguages", 5},
+                                                     {u"lstProgramOSSupport", 3},
+                                                     {u"lstProgramLanguage", 3}};
+    for (const auto& [name, rows] : lists)
+        if (auto* list = qobject_cast<QListWidget*>(control(name))) {
+            const int height = list->fontMetrics().height() * rows + 2 * list->frameWidth();
+            list->setMinimumHeight(height);
+            if (rows < 5)
+                list->setMaximumHeight(height + 4);
+        }
     arrange(false);
 }
 
@@ -53,25 +70,22 @@ void ProgramTabWidget::chooseColumns(int width) {
 
 void ProgramTabWidget::arrange(bool twoColumns) {
     m_twoColumns = twoColumns;
-    for (QWidget* frame : m_frames)
-        m_grid->removeWidget(frame);
-    for (int row = 0; row <= m_frames.size(); ++row)
-        m_grid->setRowStretch(row, 0);
-    if (twoColumns) {
-        // The program frame beside the others, which keep their height; the room left is
-        // below them.
-        m_grid->addWidget(m_frames[0], 0, 0, m_frames.size(), 1);
-        for (int i = 1; i < m_frames.size(); ++i)
-            m_grid->addWidget(m_frames[i], i - 1, 1);
-        m_grid->setRowStretch(m_frames.size() - 1, 1);
-        m_grid->setColumnStretch(1, 1);
-    } else {
-        for (int i = 0; i < m_frames.size(); ++i)
-            m_grid->addWidget(m_frames[i], i, 0);
-        m_grid->setRowStretch(m_frames.size(), 1);
-        m_grid->setColumnStretch(1, 0);
+    for (QWidget* frame : m_frames) {
+        m_left->removeWidget(frame);
+        m_right->removeWidget(frame);
     }
-    m_grid->setColumnStretch(0, 1);
+    // Two columns: the program frame and the later versions' frame on the left, the others on
+    // the right. Each column keeps its frames' heights; the room left is below them.
+    QList<QWidget*> left = m_frames, right;
+    if (twoColumns) {
+        left = {m_frames.front(), m_frames.back()};
+        right = m_frames.mid(1, m_frames.size() - 2);
+    }
+    for (QWidget* frame : left)
+        m_left->insertWidget(m_left->count() - 1, frame);
+    for (QWidget* frame : right)
+        m_right->insertWidget(m_right->count() - 1, frame);
+    m_right->parentWidget()->setVisible(twoColumns);
 }
 
 } // namespace brevaro

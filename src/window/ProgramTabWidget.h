@@ -4,13 +4,14 @@
 
 #include <QList>
 
-class QGridLayout;
+class QVBoxLayout;
 
 namespace brevaro {
 
-// "Program Info": the program frame, the distribution file, the expiry and the
-// miscellaneous information. One below the other in a narrow window; in a wide one the program
-// frame stands beside the other three, so that the whole tab fits without scrolling.
+// "Program Info": the program frame, the distribution file, the expiry, the miscellaneous
+// information and the later PAD versions' choices. One below the other in a narrow window; in a
+// wide one the program frame and the later versions' frame stand beside the other three, so
+// that the whole tab fits without scrolling.
 class ProgramTabWidget : public FormPageWidget {
     Q_OBJECT
 public:
@@ -26,7 +27,8 @@ private:
     void chooseColumns(int width);
     void arrange(bool twoColumns);
 
-    QGridLayout* m_grid;
+    QVBoxLayout* m_left = nullptr;
+    QVBoxLayout* m_right = nullptr;
     QList<QWidget*> m_frames;
     bool m_twoColumns = true;
     bool m_watchingView = false;

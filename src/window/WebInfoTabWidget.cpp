@@ -1,6 +1,7 @@
 #include "window/WebInfoTabWidget.h"
 
 #include <QGroupBox>
+#include <QListWidget>
 #include <QVBoxLayout>
 
 namespace brevaro {
@@ -10,7 +11,16 @@ WebInfoTabWidget::WebInfoTabWidget(ControlBindingView& view, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addWidget(frame(QStringLiteral("Frame11")));
     column->addWidget(frame(QStringLiteral("Frame12")));
+    column->addWidget(frame(QStringLiteral("frmProgramPages")));
+    column->addWidget(frame(QStringLiteral("frmPressRelease")));
+    column->addWidget(frame(QStringLiteral("frmNewsFeed")));
     column->addStretch();
+    // The short lists show a few entries and scroll.
+    const std::pair<const char16_t*, int> lists[] = {
+        {u"lstWindowsVersions", 2}, {u"lstLinuxPackages", 3}, {u"lstInstallerArchitectures", 3}};
+    for (const auto& [name, rows] : lists)
+        if (auto* list = qobject_cast<QListWidget*>(control(name)))
+            list->setFixedHeight(list->fontMetrics().height() * rows + 2 * list->frameWidth() + 4);
 }
 
 } // namespace brevaro

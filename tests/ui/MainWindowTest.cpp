@@ -533,3 +533,112 @@ TEST_F(MainWindowTest, KeysSaveUndoAndReachEveryButton) {
     EXPECT_EQ(licence->toPlainText(), QStringLiteral("My own terms"));
     EXPECT_EQ(session->screen().at(u"txtEULA").text, QStringLiteral("My own terms"));
 }
+
+// The later versions' fields as an author meets them: shown from the records, nothing marked
+// by showing any tab, the category class chosen in two steps, everything kept by a save, and
+// Create PAD and Check PAD working in the version chosen for the program.
+TEST_F(MainWindowTest, LaterVersionFieldsAreEditedSavedAndPublished) {
+    window.reset();
+    session.reset();
+    CompanyRecord company;
+    company.setNumber(CompanyField::CompanyID, 1);
+    company.setText(CompanyField::CompanyName, QStringLiteral("Northwind"));
+    company.setLaterValue(QStringLiteral("LinkedinPage"), QStringLiteral("https://in.example/nw"));
+    ASSERT_TRUE(store.writeCompany(1, company));
+    ProgramRecord program;
+    program.setNumber(ProgramField::CompanyID, 1);
+    program.setText(ProgramField::ProgramName, QStringLiteral("Harbour Notes"));
+    program.setText(ProgramField::ChangeInfo, QStringLiteral("Быстрее поиск"));
+    program.setLaterValue(QStringLiteral("PAD_Version"), QStringLiteral("4.0"));
+    program.setLaterValue(QStringLiteral("Program_Category_Class"),
+                          QStringLiteral("Business::PIMS & Calendars"));
+    program.setLaterValue(QStringLiteral("Program_OS_Support"), QStringLiteral("Linux,WinOther"));
+    program.setLaterValue(QStringLiteral("Headline"), QStringLiteral("Notes that follow you"));
+    program.setNumber(ProgramField::DescriptionActive, 1, 0);
+    program.setText(ProgramField::Keywords, QStringLiteral("notes,outliner,journal"), 0);
+    program.setText(ProgramField::CharDesc250,
+                    QStringLiteral("Harbour Notes keeps notes, journals and lists in one outline."),
+                    0);
+    ASSERT_TRUE(store.writeProgram(1, 1, program));
+    open();
+
+    EXPECT_EQ(find<QLineEdit>(QStringLiteral("txtLinkedinPage"))->text(),
+              QStringLiteral("https://in.example/nw"));
+    EXPECT_EQ(find<QLineEdit>(QStringLiteral("txtRecentChanges"))->text(),
+              QStringLiteral("Быстрее поиск"));
+    EXPECT_EQ(find<QComboBox>(QStringLiteral("cboCategoryMain"))->currentText(),
+              QStringLiteral("Business"));
+    auto* classes = find<QComboBox>(QStringLiteral("cboProgramCategoryClass"));
+    EXPECT_EQ(classes->currentText(), QStringLiteral("PIMS & Calendars"));
+    auto* systems = find<QListWidget>(QStringLiteral("lstProgramOSSupport"));
+    QStringList checked;
+    for (QListWidgetItem* item : systems->selectedItems())
+        checked << item->text();
+    checked.sort();
+    EXPECT_EQ(checked, (QStringList{QStringLiteral("Linux"), QStringLiteral("WinOther")}));
+    for (int t = 0; t < tabs()->count(); ++t) {
+        chooseTab(t);
+        EXPECT_FALSE(window->windowTitle().contains(QStringLiteral("(MODIFIED)"))) << t;
+    }
+    for (int t = 0; t < tabs()->count(); ++t) {
+        tabs()->setCurrentIndex(t);
+        QApplication::processEvents();
+        EXPECT_FALSE(window->windowTitle().contains(QStringLiteral("(MODIFIED)"))) << t;
+    }
+
+    // Another main class offers its own classes; the choice and a typed page are saved, and
+    // what was not touched stays.
+    chooseTab(1);
+    auto* mains = find<QComboBox>(QStringLiteral("cboCategoryMain"));
+    mains->setCurrentIndex(mains->findText(QStringLiteral("Games & Entertainment")));
+    emit mains->activated(mains->currentIndex());
+    ASSERT_GE(classes->findText(QStringLiteral("Puzzle & Word Games")), 0);
+    EXPECT_LT(classes->findText(QStringLiteral("PIMS & Calendars")), 0);
+    classes->setCurrentIndex(classes->findText(QStringLiteral("Puzzle & Word Games")));
+    emit classes->activated(classes->currentIndex());
+    chooseTab(3);
+    typeInto(QStringLiteral("txtVideoLink1URL"), QStringLiteral("ftp://video.example/tour"));
+    EXPECT_TRUE(window->windowTitle().contains(QStringLiteral("(MODIFIED)")));
+    QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_FALSE(window->windowTitle().contains(QStringLiteral("(MODIFIED)")));
+    ProgramRecord saved;
+    ASSERT_TRUE(store.readProgram(1, 1, saved));
+    EXPECT_EQ(saved.laterValue(QStringLiteral("Program_Category_Class")),
+              QStringLiteral("Games & Entertainment::Puzzle & Word Games"));
+    EXPECT_EQ(saved.laterValue(QStringLiteral("Headline")),
+              QStringLiteral("Notes that follow you"));
+    EXPECT_EQ(saved.laterValue(QStringLiteral("Video_Link_1_URL")),
+              QStringLiteral("ftp://video.example/tour"));
+    EXPECT_EQ(saved.wholeText(int(ProgramField::ChangeInfo)), QStringLiteral("Быстрее поиск"));
+
+    // Check PAD checks the 4.0 file: the video address breaks its pattern, and the finding
+    // leads to its box.
+    window->findChild<QAction*>(QStringLiteral("mnuTools_4"))->trigger();
+    auto* check = window->findChild<QDialog*>(QStringLiteral("frmPadCheck"));
+    ASSERT_TRUE(check);
+    auto* list = check->findChild<QTreeWidget*>(QStringLiteral("lstFindings"));
+    QTreeWidgetItem* video = nullptr;
+    for (int i = 0; i < list->topLevelItemCount(); ++i)
+        if (list->topLevelItem(i)->text(1) == QStringLiteral("Video 1"))
+            video = list->topLevelItem(i);
+    ASSERT_TRUE(video);
+    emit list->itemActivated(video, 0);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return find(QStringLiteral("txtVideoLink1URL"))->hasFocus(); }, 2000));
+    check->close();
+
+    // Create PAD writes the 4.0 file, in UTF-8, as the command line does.
+    const QString padFile = home.file(QStringLiteral("notes.xml"));
+    prompts.files.push_back(padFile);
+    clickButton(ControlAction::CreatePAD);
+    QProcess cli;
+    cli.start(QStringLiteral(BREVARO_CLI),
+              {QStringLiteral("--home"), home.path(), QStringLiteral("pad"), QStringLiteral("-c"),
+               QStringLiteral("1"), QStringLiteral("-p"), QStringLiteral("1"),
+               QStringLiteral("--format"), QStringLiteral("4.0")});
+    ASSERT_TRUE(cli.waitForFinished(30000));
+    const QByteArray written = readBytes(padFile);
+    EXPECT_EQ(written, cli.readAllStandardOutput());
+    EXPECT_TRUE(written.contains("<MASTER_PAD_VERSION>4.0</MASTER_PAD_VERSION>"));
+    EXPECT_TRUE(written.contains("Быстрее поиск"));
+}
