@@ -111,4 +111,66 @@ BENCHMARK(BM_Write10000PadDocuments)
     ->Arg(static_cast<int>(PadVersion::V4_0))
     ->Unit(benchmark::kMillisecond);
 
+// A home of 10,000 companies whose last company has 1,000 programs, each with the later
+// versions' fields and a description Windows-1252 cannot hold, kept in the companion of its
+// program file.
+struct LargeHome {
+    QTemporaryDir dir;
+    RecordStore store{AppHome(dir.path())};
+    static constexpr int kCompanies = 10000;
+    static constexpr int kPrograms = 1000;
+
+    LargeHome() {
+        store.home().createFolders();
+        std::vector<QByteArray> companies;
+        for (int n = 1; n <= kCompanies; ++n) {
+            CompanyRecord c = sampleCompany();
+            c.setNumber(CompanyField::CompanyID, n);
+            c.setText(CompanyField::CompanyName, QStringLiteral("Company %1").arg(n));
+            companies.push_back(c.bytes());
+        }
+        store.companyFile().writeAll(companies);
+        std::vector<QByteArray> programs;
+        ExtrasFile extras;
+        for (int n = 1; n <= kPrograms; ++n) {
+            ProgramRecord p = sampleProgram();
+            p.setNumber(ProgramField::CompanyID, kCompanies);
+            p.setText(ProgramField::ProgramName, QStringLiteral("Tool %1").arg(n));
+            p.setText(ProgramField::CharDesc250, QStringLiteral("Быстрый редактор %1").arg(n), 8);
+            p.setLaterValue(QStringLiteral("Program_Category_Class"),
+                            QStringLiteral("Business::Databases & Tools"));
+            p.setLaterValue(QStringLiteral("Program_OS_Support"), QStringLiteral("Linux,WinOther"));
+            p.setLaterValue(QStringLiteral("Headline"),
+                            QStringLiteral("Tool %1 is out now").arg(n));
+            programs.push_back(p.bytes());
+            extras.setEntry(n, p.text(ProgramField::ProgramName), p);
+        }
+        extras.recordCount = kPrograms;
+        store.programFile(kCompanies).writeAll(programs);
+        QFile file(AppHome::extrasFile(store.home().programFile(kCompanies)));
+        file.open(QIODevice::WriteOnly);
+        file.write(extras.toBytes());
+    }
+};
+
+// One product's PAD file in each version, as `brevaro-cli pad` makes it: the company and the
+// last program read from a fresh store (so the companion is read each time), then written.
+void BM_WriteOneProductOfALargeHome(benchmark::State& state) {
+    static LargeHome home;
+    const auto version = static_cast<PadVersion>(state.range(0));
+    state.SetLabel(padVersionText(version).toStdString());
+    for (auto _ : state) {
+        RecordStore store(home.store.home());
+        CompanyRecord c;
+        ProgramRecord p;
+        store.readCompany(LargeHome::kCompanies, c);
+        store.readProgram(LargeHome::kCompanies, LargeHome::kPrograms, p);
+        benchmark::DoNotOptimize(padFileBytes(CreatePADText(c, p, version), version));
+    }
+}
+BENCHMARK(BM_WriteOneProductOfALargeHome)
+    ->Arg(static_cast<int>(PadVersion::V1_15))
+    ->Arg(static_cast<int>(PadVersion::V4_0))
+    ->Unit(benchmark::kMillisecond);
+
 } // namespace
