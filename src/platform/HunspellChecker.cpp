@@ -130,9 +130,23 @@ bool HunspellChecker::hasDictionary(const QString& dictionary) {
     return load(dictionary) != nullptr;
 }
 
+// Whether a word is written in the alphabet of the dictionary's language: a Russian name in an
+// English text, or an English one in a Russian text, is not the dictionary's to judge.
+static bool inAlphabetOf(const QString& dictionary, const QString& word) {
+    static const QStringList cyrillic = {QStringLiteral("ru"), QStringLiteral("uk"),
+                                         QStringLiteral("bg"), QStringLiteral("be")};
+    const QChar::Script script =
+        cyrillic.contains(dictionary.left(2)) ? QChar::Script_Cyrillic : QChar::Script_Latin;
+    for (const QChar c : word)
+        if (c.isLetter() && c.script() == script)
+            return true;
+    return false;
+}
+
 bool HunspellChecker::isCorrect(const QString& dictionary, const QString& word) {
     Dictionary* d = load(dictionary);
-    if (!d || word.isEmpty() || m_ignored.contains(word) || m_personal.contains(word))
+    if (!d || word.isEmpty() || m_ignored.contains(word) || m_personal.contains(word) ||
+        !inAlphabetOf(dictionary, word))
         return true;
     if (const auto known = d->known.constFind(word); known != d->known.constEnd())
         return *known;

@@ -43,6 +43,10 @@ TEST(SpellChecker, EnglishWordsAndMisspellings) {
     const QString text = u"Teh notes recieve tidy updates"_s;
     std::vector<WordSpan> found = misspeltWords(checker, kEnglish, text);
     EXPECT_EQ(found, (std::vector<WordSpan>{{0, 3}, {10, 7}}));
+    // Words of another alphabet (a Russian change note in an English-checked box) are not the
+    // English dictionary's to judge.
+    EXPECT_TRUE(misspeltWords(checker, kEnglish, u"Новая версия: быстрее поиск"_s).empty());
+    EXPECT_FALSE(checker.isCorrect(kEnglish, u"Nоvaya"_s)); // a Latin word with one Cyrillic о
 }
 
 // Codes with digits, web addresses, file names and e-mail addresses are not words to check;
