@@ -88,9 +88,11 @@ std::vector<PadWrittenValue> padWrittenValues(const CompanyRecord& company,
         case LaterRowKind::Languages:
         case LaterRowKind::CategoryClass:
             add(element, row.side, row.field, 0, laterValue(row, company, program, version));
-            // The systems, languages and class chosen for the later versions, if any.
-            if (row.kind != LaterRowKind::Value &&
-                !program.laterValue(QLatin1String(element)).isEmpty())
+            // The systems, languages and class chosen for the later versions come from their
+            // own boxes, and so does a class none was proposed for (the author chooses one).
+            if ((row.kind != LaterRowKind::Value &&
+                 !program.laterValue(QLatin1String(element)).isEmpty()) ||
+                (row.kind == LaterRowKind::CategoryClass && out.back().value.isEmpty()))
                 out.back().extra = QLatin1String(element);
             break;
         case LaterRowKind::Extra:

@@ -30,7 +30,7 @@ constexpr auto kFields = std::to_array<ExtraField>({
 
     {"PAD_Version", P, K::Choice, 4, "PAD version", nullptr, G::Publishing,
      "The PAD version Create PAD writes and Check PAD checks for this program"},
-    {"Program_Category_Class", P, K::Choice, 100, "Class within it", "Program_Category_Class",
+    {"Program_Category_Class", P, K::Choice, 100, "Category sub-class", "Program_Category_Class",
      G::Publishing,
      "The class of PAD 3.11 and 4.0; none chosen: proposed from the categories above"},
     {"Program_OS_Support", P, K::TokenList, 1000, "Systems (PAD 4.0)", "Program_OS_Support",
