@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
+#include <cstdio>
 
 namespace {
 
@@ -14,7 +15,9 @@ bool runCli(const QString& home, const QStringList& args) {
     const bool ok = p.waitForFinished(60000) && p.exitStatus() == QProcess::NormalExit &&
                     p.exitCode() != 1 && p.exitCode() != 2;
     if (!ok)
-        qWarning("%s", p.readAllStandardError().constData());
+        std::fprintf(stderr, "%s: status %d, exit %d, %s\n", qPrintable(args.join(u' ')),
+                     static_cast<int>(p.exitStatus()), p.exitCode(),
+                     p.readAllStandardError().constData());
     return ok;
 }
 

@@ -180,8 +180,9 @@ int exportCommand(CliContext& ctx, const QStringList& words) {
     ctx.select(c, ctx.program(ctx.companyId(c), args.required(QStringLiteral("-p"))));
     const Output output = buildOutput(*format, s.company(), s.program(), QString());
     for (const OutputFinding& f : output.findings)
-        ctx.warn(QStringLiteral("%1: %2%3")
-                     .arg(f.severity == OutputFinding::Severity::Error ? QStringLiteral("error")
+        ctx.warn(QStringLiteral("%1: %2: %3%4")
+                     .arg(f.output,
+                          f.severity == OutputFinding::Severity::Error ? QStringLiteral("error")
                                                                        : QStringLiteral("warning"),
                           f.field.isEmpty() ? QString() : f.field + QStringLiteral(": "),
                           f.message));

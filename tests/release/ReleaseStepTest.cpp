@@ -70,6 +70,17 @@ TEST_F(ReleaseStep, SizesRoundAsFileInfoShowsThem) {
     EXPECT_EQ(v.versioned, u"a10.zip");
 }
 
+TEST_F(ReleaseStep, HashAgreesWithQtsOwnAtEveryBlockBoundary) {
+    for (const int size : {0, 1, 1048575, 1048576, 1048577, 3 * 1048576 + 7}) {
+        QByteArray bytes(size, Qt::Uninitialized);
+        for (int i = 0; i < size; ++i)
+            bytes[i] = static_cast<char>((i * 7919) >> 3);
+        const DistributionFile d = distributionFile(dir.path(), QStringLiteral("f.bin"), bytes);
+        EXPECT_EQ(d.size, size);
+        EXPECT_EQ(d.sha256, sha256Hex(bytes)) << size;
+    }
+}
+
 TEST_F(ReleaseStep, RunningItAgainChangesNothing) {
     const auto file = distributionFile(dir.path(), QStringLiteral("h.exe"), "one");
     const ReleasePlan first = planRelease(releaseProgram(), input({file}, QStringLiteral("x")));
