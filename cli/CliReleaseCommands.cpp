@@ -5,6 +5,7 @@
 #include "release/OnlineCheck.h"
 #include "release/ReleaseOutputs.h"
 #include "release/ReleaseStep.h"
+#include "session/ReleaseSave.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -51,17 +52,10 @@ ReleaseInput releaseInput(const CliArgs& args) {
     return input;
 }
 
-// Puts the released program on the screen as the window shows it and saves it as Save does,
-// so that the store writes company and program in the command's one save.
+// Saves the release in the command's one save, before anything is written.
 void saveReleased(CliContext& ctx, const ProgramRecord& released) {
-    EditingSession& s = ctx.session();
-    s.program() = released;
-    s.transfer().ProgramToScreen();
-    s.navigation().SetProgramDirty();
-    const ControlAction save =
-        s.state().CompanyDirty ? ControlAction::SaveCompany : ControlAction::SaveProgram;
-    const CommandResult result = s.trigger(save);
-    if (result.outcome != CommandResult::Outcome::Done)
+    const CommandResult result = saveRelease(ctx.session(), released);
+    if (!result.isDone())
         throw CliError{2, QStringLiteral("the release could not be saved: ") + result.reason};
     ctx.failOnMessages();
     ctx.finish();
@@ -81,22 +75,6 @@ void printFindings(CliContext& ctx, const std::vector<Output>& outputs) {
 bool anyErrors(const std::vector<Output>& outputs) {
     return std::any_of(outputs.begin(), outputs.end(),
                        [](const Output& o) { return hasErrors(o.findings); });
-}
-
-// Every download address of the release with its file, and the PAD file's own address with
-// the PAD file as written.
-std::vector<OnlineTarget> onlineTargets(const ProgramRecord& program, const ReleaseInput& input,
-                                        const QString& padPath) {
-    std::vector<OnlineTarget> targets;
-    for (std::size_t slot = 0; slot < input.files.size(); ++slot)
-        if (const QString url = program.wholeText(downloadAddressField(static_cast<int>(slot)));
-            !url.isEmpty())
-            targets.push_back({url, input.files[slot].path});
-    if (const QString pad =
-            program.wholeText(static_cast<int>(ProgramField::ApplicationXMLFileURL));
-        !pad.isEmpty())
-        targets.push_back({pad, padPath});
-    return targets;
 }
 
 } // namespace
@@ -154,7 +132,8 @@ int releaseCommand(CliContext& ctx, const QStringList& words) {
     bool online = true;
     if (args.has(QStringLiteral("--verify-urls"))) {
         OnlineCheck check;
-        const auto results = check.run(onlineTargets(plan.program, input, written.front().path));
+        const auto results =
+            check.run(onlineTargets(plan.program, input.files, written.front().path));
         for (const OnlineResult& r : results)
             ctx.print(QStringLiteral("%1: %2 (%3)\n")
                           .arg(outcomeName(r.outcome), r.url, escapeControls(r.detail)));

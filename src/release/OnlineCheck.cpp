@@ -2,6 +2,7 @@
 
 #include "platform/HttpTransfer.h"
 #include "release/DistributionFile.h"
+#include "release/ReleaseStep.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -91,6 +92,21 @@ OnlineResult OnlineCheck::fetchOne(const OnlineTarget& target) {
                 QStringLiteral("same size, another SHA-256 than %1").arg(local.name)};
     return {O::Matches, target.url,
             QStringLiteral("%1 bytes, SHA-256 %2").arg(local.size).arg(local.sha256)};
+}
+
+std::vector<OnlineTarget> onlineTargets(const ProgramRecord& program,
+                                        const std::vector<DistributionFile>& files,
+                                        const QString& padPath) {
+    std::vector<OnlineTarget> targets;
+    for (std::size_t slot = 0; slot < files.size() && slot < kReleaseFiles; ++slot)
+        if (const QString url = program.wholeText(downloadAddressField(static_cast<int>(slot)));
+            !url.isEmpty())
+            targets.push_back({url, files[slot].path});
+    if (const QString pad =
+            program.wholeText(static_cast<int>(ProgramField::ApplicationXMLFileURL));
+        !pad.isEmpty())
+        targets.push_back({pad, padPath});
+    return targets;
 }
 
 bool allMatch(const std::vector<OnlineResult>& results) {

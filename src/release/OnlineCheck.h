@@ -1,5 +1,8 @@
 #pragma once
 
+#include "records/ProgramRecord.h"
+#include "release/DistributionFile.h"
+
 #include <QObject>
 #include <QString>
 #include <vector>
@@ -52,6 +55,12 @@ private:
     int m_idleMs = 30000;
     bool m_cancelled = false;
 };
+
+// What a release put online: each download address that has a distribution file with that
+// file, and the PAD file's own address with the PAD file as written at padPath.
+std::vector<OnlineTarget> onlineTargets(const ProgramRecord& program,
+                                        const std::vector<DistributionFile>& files,
+                                        const QString& padPath);
 
 // True when every result matches.
 bool allMatch(const std::vector<OnlineResult>& results);

@@ -14,6 +14,13 @@ namespace {
 
 const QByteArray kFile = QByteArray("release bytes ").repeated(1000);
 
+LocalHttpServer::Response serving(const QByteArray& body) {
+    LocalHttpServer::Response r;
+    r.contentType = "application/octet-stream";
+    r.body = body;
+    return r;
+}
+
 class OnlineCheckTest : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -21,13 +28,20 @@ protected:
         writeBytes(local, kFile);
         QByteArray sameSize = kFile;
         sameSize[100] = 'X';
-        server.route("/right", {200, "application/octet-stream", kFile});
-        server.route("/bigger", {200, "application/octet-stream", kFile + "more"});
-        server.route("/smaller", {200, "application/octet-stream", kFile.left(10)});
-        server.route("/same-size", {200, "application/octet-stream", sameSize});
-        server.route("/moved", {302, "text/plain", "", "/right"});
-        server.route("/stall", {200, "text/plain", "", {}, true});
-        server.route("/huge", {200, "application/octet-stream", "", {}, false, 50'000'000});
+        server.route("/right", serving(kFile));
+        server.route("/bigger", serving(kFile + "more"));
+        server.route("/smaller", serving(kFile.left(10)));
+        server.route("/same-size", serving(sameSize));
+        LocalHttpServer::Response moved = serving({});
+        moved.status = 302;
+        moved.location = "/right";
+        server.route("/moved", moved);
+        LocalHttpServer::Response stall = serving({});
+        stall.stall = true;
+        server.route("/stall", stall);
+        LocalHttpServer::Response huge = serving({});
+        huge.hugeBytes = 50'000'000;
+        server.route("/huge", huge);
         check.setIdleLimit(300);
     }
     OnlineTarget at(const char* path) { return {server.url(path), local}; }
