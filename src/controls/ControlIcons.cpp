@@ -28,6 +28,8 @@ const char* byAction(ControlAction action) {
         return "create-pad";
     case ControlAction::Submit:
         return "submit";
+    case ControlAction::NewRelease:
+        return "new-release";
     case ControlAction::Exit:
         return "exit";
     case ControlAction::OpenFieldUrl:

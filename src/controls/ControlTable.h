@@ -77,6 +77,7 @@ enum class ControlAction {
     ClickBanner,
     CheckPAD,     // the findings of the PAD check, each leading to its field
     CategoryMain, // the classes of the chosen main class fill the category class box
+    NewRelease,   // a release of the shown program: version, files, every format written
 };
 
 // The web pages that links open.

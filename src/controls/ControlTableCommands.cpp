@@ -29,6 +29,14 @@ void buttonBar(TableBuilder& t) {
         {"Submit", "Submit Your product to Shareware Directories", A::Submit},
         {"Exit", nullptr, A::Exit}};
     for (int i = 0; i < 10; ++i) {
+        // New Release sits before Exit, which stays the last button.
+        if (buttons[i].action == A::Exit)
+            t.add("cmdNewRelease", K::Button)
+                .on(Place::ButtonBar)
+                .caption("New Release")
+                .action(A::NewRelease)
+                .tip("Release a new version: its files, version and date, and every format "
+                     "written from the records");
         t.add("cmdButton", K::Button, i)
             .on(Place::ButtonBar)
             .caption(buttons[i].caption)
@@ -53,8 +61,10 @@ void menus(TableBuilder& t) {
                                               {"Create PAD", A::CreatePAD},
                                               {"Submit PAD", A::Submit},
                                               {"-", A::None},
+                                              {"New Release...", A::NewRelease},
+                                              {"-", A::None},
                                               {"Exit", A::Exit}};
-    for (int i = 0; i < 14; ++i)
+    for (int i = 0; i < 16; ++i)
         t.add("mnuPAD", K::MenuItem, i)
             .on(Place::Menu)
             .caption(file[i].first)

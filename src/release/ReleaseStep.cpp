@@ -79,6 +79,20 @@ QString downloadHashField(int slot) {
     return QStringLiteral("Download_SHA256_%1").arg(slot + 1);
 }
 
+QString proposedVersion(const QString& current) {
+    const QString v = current.trimmed();
+    if (v.isEmpty())
+        return QStringLiteral("1.0");
+    qsizetype start = v.size();
+    while (start > 0 && v.at(start - 1).isDigit())
+        --start;
+    if (start == v.size())
+        return v;
+    bool ok = false;
+    const qulonglong last = v.mid(start).toULongLong(&ok);
+    return ok ? v.left(start) + QString::number(last + 1) : v;
+}
+
 QString downloadAddress(const QString& pattern, const QString& version, const QString& file) {
     QString address = pattern;
     address.replace(QLatin1String("{version}"), version);

@@ -52,6 +52,11 @@ ReleasePlan planRelease(const ProgramRecord& program, const ReleaseInput& input)
 int downloadAddressField(int slot);
 QString downloadHashField(int slot);
 
+// The version a release proposes after current: its last number counted up ("2.4.1" gives
+// "2.4.2", "2.9" gives "2.10"); "1.0" when there is none; current itself when it does not end
+// in a number.
+QString proposedVersion(const QString& current);
+
 // The address pattern with {version} and {file} replaced.
 QString downloadAddress(const QString& pattern, const QString& version, const QString& file);
 

@@ -204,6 +204,8 @@ void EditingSession::runAction(const ControlRow& r) {
         return runCommand(r.action, QStringLiteral("Check PAD"));
     case ControlAction::Keywords:
         return runCommand(r.action, QStringLiteral("Keyword suggestion"));
+    case ControlAction::NewRelease:
+        return runCommand(r.action, QStringLiteral("New Release"));
     case ControlAction::DownloadBanners:
     case ControlAction::NextBanner:
     case ControlAction::ClickBanner:

@@ -184,6 +184,8 @@ void SessionNavigation::EnableCommands() {
         m_core.setCommandEnabled(a, company && byTab(a, false));
     for (const A a : {A::VerifyPAD, A::CreatePAD, A::Submit, A::CheckPAD})
         m_core.setCommandEnabled(a, company);
+    m_core.setCommandEnabled(A::NewRelease,
+                             company && !m_core.screen.at(u"cboProgramName").items.isEmpty());
 }
 
 } // namespace brevaro

@@ -23,8 +23,9 @@ ButtonBarWidget::ButtonBarWidget(ControlBindingView& view, QString& usedMnemonic
             b->setText(withMnemonic(r.caption, usedMnemonics));
             b->setIconSize(QSize(20, 20));
             column->addWidget(b);
-            // Company, program and PAD commands and Exit form four groups.
-            if (r.index == 2 || r.index == 5 || r.index == 8)
+            // Company, program and PAD commands, New Release and Exit form five groups.
+            if (r.index == 2 || r.index == 5 || r.index == 8 ||
+                r.action == ControlAction::NewRelease)
                 column->addSpacing(10);
         } else if (auto* t = qobject_cast<QToolButton*>(w)) {
             t->setIconSize(QSize(96, 40));

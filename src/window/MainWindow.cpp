@@ -20,6 +20,7 @@
 #include "window/PadCheckDialog.h"
 #include "window/PermissionsTabWidget.h"
 #include "window/ProgramTabWidget.h"
+#include "window/ReleaseDialog.h"
 #include "window/SpellingView.h"
 #include "window/SubmissionPluginLoader.h"
 #include "window/TabRowsWidget.h"
@@ -239,6 +240,17 @@ void MainWindow::setCommandHandlers() {
             return;
         if (const auto keywords = suggester.accept())
             m_session.assistance().applyKeywords(*keywords);
+    });
+    m_session.setCommandHandler(ControlAction::NewRelease, [this] {
+        // A release starts from the saved records, as Create PAD does.
+        if (m_session.state().CompanyDirty || m_session.state().ProgramDirty) {
+            m_session.prompts().beep();
+            m_session.navigation().SimpleText(
+                QStringLiteral("Save the company and the program before a release."));
+            return;
+        }
+        ReleaseDialog dialog(m_session, this);
+        dialog.exec();
     });
     m_session.setCommandHandler(ControlAction::Submit, [this] {
         QString error;

@@ -60,6 +60,14 @@ TEST_F(ReleaseStep, ComputesEveryFieldThatChanges) {
     EXPECT_EQ(version->before, u"2.4.1");
 }
 
+TEST_F(ReleaseStep, ProposesTheNextVersion) {
+    EXPECT_EQ(proposedVersion(QStringLiteral("2.4.1")), u"2.4.2");
+    EXPECT_EQ(proposedVersion(QStringLiteral("2.9")), u"2.10");
+    EXPECT_EQ(proposedVersion(QStringLiteral("7")), u"8");
+    EXPECT_EQ(proposedVersion(QString()), u"1.0");
+    EXPECT_EQ(proposedVersion(QStringLiteral("2.4 beta")), u"2.4 beta");
+}
+
 TEST_F(ReleaseStep, SizesRoundAsFileInfoShowsThem) {
     // Half away from zero: 0.125 MB shows as 0.13, 1.5 KB as 2.
     FileInfoValues v = fileInfoValues(QStringLiteral("a.zip"), 131072, QStringLiteral("1.0"));
