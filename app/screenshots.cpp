@@ -13,6 +13,7 @@
 #include "window/ControlBindingView.h"
 #include "window/KeywordsDialog.h"
 #include "window/MainWindow.h"
+#include "window/ReleaseDialog.h"
 #include "window/SiteListDialog.h"
 #include "window/SpellingView.h"
 #include "window/SubmissionPluginLoader.h"
@@ -22,6 +23,8 @@
 #include <QCursor>
 #include <QDialog>
 #include <QDir>
+#include <QFile>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -43,6 +46,40 @@ bool save(QWidget& w, const QString& dir, const char* name) {
         return false;
     }
     return true;
+}
+
+// File, New Release for version 2.5.0 of a made-up 3 MB file, before and after Apply, in a
+// session of its own (the window's holds the typed misspelling). The publishing fields a PAD
+// 1.15 file cannot carry are set first, as the author sets them once.
+bool saveRelease(MainWindow& window, RecordStore& store, Prompts& prompts, const QString& out) {
+    EditingSession session(store, prompts);
+    session.Start();
+    QTemporaryDir folder;
+    const QString dist = folder.filePath(QStringLiteral("harbour-notes-2.5.0.zip"));
+    QFile file(dist);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    for (int i = 0; i < 3 * 1024; ++i)
+        file.write(QByteArray(1024, static_cast<char>(i * 37)));
+    file.close();
+    ProgramRecord& p = session.program();
+    p.setLaterValue(QStringLiteral("Application_Identifier"),
+                    QStringLiteral("example.northwind.HarbourNotes"));
+    p.setLaterValue(QStringLiteral("SPDX_License"), QStringLiteral("LicenseRef-proprietary"));
+    p.setLaterValue(QStringLiteral("Download_URL_Pattern"),
+                    QStringLiteral("https://dl.northwind.example/notes/{version}/{file}"));
+    p.setLaterValue(QStringLiteral("Installer_Type"), QStringLiteral("zip"));
+    ReleaseDialog dialog(session, &window);
+    dialog.addFiles({dist});
+    dialog.findChild<QLineEdit*>(QStringLiteral("txtReleaseVersion"))
+        ->setText(QStringLiteral("2.5.0"));
+    dialog.findChild<QPlainTextEdit*>(QStringLiteral("txtReleaseChanges"))
+        ->setPlainText(QStringLiteral("Notes open in tabs; sync resumes after a lost connection."));
+    dialog.show();
+    bool ok = save(dialog, out, "release-before");
+    dialog.apply();
+    ok &= save(dialog, out, "release-after");
+    return ok;
 }
 
 // A description with a misspelt word typed into it and the word's context menu open over it,
@@ -187,6 +224,7 @@ int main(int argc, char* argv[]) {
     about.show();
     ok &= save(about, out, "about");
     about.close();
+    ok &= saveRelease(window, store, prompts, out);
     if (!qEnvironmentVariableIsEmpty("BREVARO_SERVER"))
         ok &= saveDemoWindows(window, session, prompts, out);
     return ok ? 0 : 1;

@@ -68,6 +68,7 @@ void ReleaseDialog::buildLayout() {
     m_fileList->setObjectName(QStringLiteral("lstReleaseFiles"));
     m_fileList->setToolTip(QStringLiteral("The primary download first, then the secondary and "
                                           "the two additional ones; drop files here"));
+    m_fileList->setMaximumHeight(m_fileList->fontMetrics().lineSpacing() * 5);
     auto* add = new QPushButton(QStringLiteral("&Add..."), files);
     add->setObjectName(QStringLiteral("cmdReleaseAdd"));
     auto* remove = new QPushButton(QStringLiteral("&Remove"), files);
@@ -148,15 +149,15 @@ void ReleaseDialog::buildLayout() {
     layout->addWidget(files);
     layout->addLayout(form);
     layout->addWidget(new QLabel(QStringLiteral("Changes:"), this));
-    layout->addWidget(m_table, 2);
+    layout->addWidget(m_table, 3);
     layout->addWidget(m_notes);
-    layout->addWidget(m_results, 1);
+    layout->addWidget(m_results, 2);
     auto* statusRow = new QHBoxLayout;
     statusRow->addWidget(m_status, 1);
     statusRow->addWidget(m_progress);
     layout->addLayout(statusRow);
     layout->addWidget(buttons);
-    resize(760, 640);
+    resize(780, 720);
 }
 
 void ReleaseDialog::addFiles(const QStringList& paths) {
@@ -315,7 +316,14 @@ void ReleaseDialog::apply() {
                               .arg(std::count_if(written.begin(), written.end(),
                                                  [](const WrittenFile& w) { return w.changed; }))
                               .arg(QDir::toNativeSeparators(outputFolder())));
-    updatePlan();
+    // The table keeps what was applied; a change of the input plans again from the saved
+    // program.
+    m_plan = planRelease(m_session.program(), input());
+    m_notes->setText(
+        plan.changes.empty()
+            ? QStringLiteral("Nothing changed: the program was already at this release.")
+            : QStringLiteral("Applied: the changes above are saved."));
+    m_apply->setEnabled(false);
     emit applied();
 }
 

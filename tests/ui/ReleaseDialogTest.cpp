@@ -14,6 +14,7 @@
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
 #include <QTableWidget>
@@ -114,7 +115,11 @@ TEST_F(ReleaseDialogTest, ShowsTheChangesThenApplySavesAndWritesEveryFormat) {
         << results.join(u"\n").toStdString();
     EXPECT_TRUE(QFile::exists(
         home.file(QStringLiteral("pad/Northwind/example.northwind.HarbourNotes.metainfo.xml"))));
-    // Applied, the release has nothing left to change.
+    // The table keeps what was applied; planned again, the release has nothing left to change.
+    EXPECT_EQ(table->item(static_cast<int>(row), 2)->text(), u"2.5.0");
+    EXPECT_TRUE(child<QLabel>(dialog, "lblReleaseNotes")->text().startsWith(u"Applied"));
+    EXPECT_FALSE(apply->isEnabled());
+    child<QPlainTextEdit>(dialog, "txtReleaseChanges")->setPlainText(QString());
     EXPECT_EQ(table->rowCount(), 0);
     EXPECT_TRUE(child<QLabel>(dialog, "lblReleaseNotes")->text().startsWith(u"Nothing changes"));
 }
