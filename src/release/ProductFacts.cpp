@@ -74,6 +74,14 @@ ProductFacts productFacts(const CompanyRecord& c, const ProgramRecord& p) {
     f.systems = commaList(p.laterValue(QStringLiteral("Program_OS_Support")));
     if (f.systems.isEmpty())
         f.systems = laterOsTokens(p, PadVersion::V4_0);
+    // The lists have no token for the current Windows versions; the author names them apart.
+    const QStringList windows = commaList(p.laterValue(QStringLiteral("Windows_Versions")));
+    if (const qsizetype other = f.systems.indexOf(QStringLiteral("WinOther"));
+        other >= 0 && !windows.isEmpty()) {
+        f.systems.removeAt(other);
+        for (qsizetype i = 0; i < windows.size(); ++i)
+            f.systems.insert(other + i, windows[i]);
+    }
     f.price = p.text(PF::CostDollars);
     f.otherPrice = p.text(PF::CostOther);
     f.otherCurrency = p.text(PF::CostOtherCode).toUpper();

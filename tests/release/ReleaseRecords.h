@@ -52,7 +52,8 @@ inline ProgramRecord releaseProgram() {
     p.setLaterValue(QStringLiteral("Application_Identifier"),
                     QStringLiteral("example.northwind.HarbourNotes"));
     p.setLaterValue(QStringLiteral("SPDX_License"), QStringLiteral("LicenseRef-proprietary"));
-    p.setLaterValue(QStringLiteral("Program_OS_Support"), QStringLiteral("Win10,Win11,Linux"));
+    p.setLaterValue(QStringLiteral("Program_OS_Support"), QStringLiteral("WinOther,Linux"));
+    p.setLaterValue(QStringLiteral("Windows_Versions"), QStringLiteral("Windows 10,Windows 11"));
     p.setLaterValue(QStringLiteral("Program_Category_Class"),
                     QStringLiteral("Business::Databases & Tools"));
     p.setLaterValue(QStringLiteral("Download_URL_Pattern"),
