@@ -82,7 +82,7 @@ TEST_F(ReleaseStep, HashAgreesWithQtsOwnAtEveryBlockBoundary) {
     for (const int size : {0, 1, 1048575, 1048576, 1048577, 3 * 1048576 + 7}) {
         QByteArray bytes(size, Qt::Uninitialized);
         for (int i = 0; i < size; ++i)
-            bytes[i] = static_cast<char>((i * 7919) >> 3);
+            bytes[i] = static_cast<char>((static_cast<unsigned>(i) * 7919u) >> 3);
         const DistributionFile d = distributionFile(dir.path(), QStringLiteral("f.bin"), bytes);
         EXPECT_EQ(d.size, size);
         EXPECT_EQ(d.sha256, sha256Hex(bytes)) << size;
