@@ -1,4 +1,5 @@
 #include "../cli/CliTestSupport.h"
+#include "LocalHttpServer.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -121,6 +122,32 @@ TEST_F(ReleaseCommand, ExitStatusSaysWhatWentWrong) {
     EXPECT_TRUE(refused.out.contains("error: AppStream metainfo: id: \"no-dots\""))
         << refused.out.toStdString();
     EXPECT_TRUE(QFileInfo::exists(t.file(QStringLiteral("out/harbour.jsonld"))));
+}
+
+TEST_F(ReleaseCommand, VerifiedAddressesDecideTheExitStatus) {
+    LocalHttpServer server;
+    const QString pattern = server.url("/") + QStringLiteral("{version}/{file}");
+    ASSERT_EQ(run(t, "set", "-c", "1", "-p", "1", QStringLiteral("Download_URL_Pattern=") + pattern,
+                  QStringLiteral("ApplicationXMLFileURL=") + server.url("/harbour.xml"))
+                  .status,
+              0);
+    LocalHttpServer::Response file;
+    file.body = QByteArray(5000, 'h');
+    server.route("/2.5.0/harbour-2.5.0.exe", file);
+    // The PAD file online is still the one of the last release.
+    file.body = "<?xml version=\"1.0\"?><XML_DIZ_INFO />";
+    server.route("/harbour.xml", file);
+    const CliResult r = release({QStringLiteral("--verify-urls")});
+    EXPECT_EQ(r.status, 3);
+    const QString out = QString::fromUtf8(r.out);
+    EXPECT_TRUE(out.contains(QStringLiteral("matches: ") + server.url("/2.5.0/harbour-2.5.0.exe")))
+        << out.toStdString();
+    EXPECT_TRUE(out.contains(QStringLiteral("differs (size): ") + server.url("/harbour.xml")))
+        << out.toStdString();
+    // Once the new PAD file is uploaded, every address matches.
+    file.body = readBytes(t.file(QStringLiteral("pad/Northwind/harbour.xml")));
+    server.route("/harbour.xml", file);
+    EXPECT_EQ(release({QStringLiteral("--verify-urls")}).status, 0);
 }
 
 TEST_F(ReleaseCommand, ExportWritesOneFormat) {
