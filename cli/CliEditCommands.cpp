@@ -103,7 +103,6 @@ void applyExtra(EditingSession& s, const Target& t, const FieldAssignment& a) {
     if (!applyAssignment(checked, a, &why))
         throw CliError{2, why};
     const QString value = checked.laterValue(t.extra);
-    ScreenModel& screen = s.screen();
     if (t.control < 0) {
         r.setLaterValue(t.extra, value);
         t.side == RecordSide::Company ? s.navigation().SetCompanyDirty()

@@ -40,12 +40,11 @@ void CompanyCommands::LoadCompanyList() {
     if (!m_core.store.companyFile().exists())
         return;
     const int selector = m_core.id(u"cboCompanyName");
-    m_core.screen.setItems(selector, {});
     m_state.CompanyCount = GetCompanyCount();
-    // Only the names are read; the current record ends as the last company, as a full read
-    // of every record would leave it.
-    for (const QString& name : m_core.store.companyNames())
-        m_core.screen.addItem(selector, name);
+    // Only the names are read, and they fill the list at once (a home of many companies
+    // starts without a change per name); the current record ends as the last company, as a
+    // full read of every record would leave it.
+    m_core.screen.setItems(selector, m_core.store.companyNames());
     if (m_state.CompanyCount > 0)
         m_core.store.readCompany(m_state.CompanyCount, m_core.company);
     if (m_state.CompanyCount > 0)

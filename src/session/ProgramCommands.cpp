@@ -60,11 +60,9 @@ void ProgramCommands::LoadProgramList() {
             m_state.CurrentProgramNo = 0;
         return;
     }
-    m_core.screen.setItems(selector, {});
     m_state.ProgramCount = GetProgramCount();
-    // Only the names are read, so a company with many programs lists quickly.
-    for (const QString& name : m_core.store.programNames(companyId()))
-        m_core.screen.addItem(selector, name);
+    // Only the names are read, all at once, so a company with many programs lists quickly.
+    m_core.screen.setItems(selector, m_core.store.programNames(companyId()));
     const int entries = static_cast<int>(m_core.screen.at(selector).items.size());
     if (entries > 1) {
         m_navigation.SetProgramClean();

@@ -25,6 +25,7 @@
 #include <QTextDocument>
 #include <QTimer>
 #include <QToolButton>
+#include <algorithm>
 
 namespace brevaro {
 
@@ -62,7 +63,8 @@ ControlBindingView::ControlBindingView(EditingSession& session, QWidget* window)
     for (int id = 0; id < screen.count(); ++id)
         createCommand(id);
     for (int id = 0; id < screen.count(); ++id)
-        create(id);
+        if (!isDeferred(row(id)))
+            create(id);
     connect(&session.screen(), &ScreenModel::controlChanged, this, &ControlBindingView::repaint);
     connect(&session.screen(), &ScreenModel::focusRequested, this, [this](int id) {
         // After the tab changes that the same command asked for (they are shown from the
@@ -79,6 +81,25 @@ ControlBindingView::ControlBindingView(EditingSession& session, QWidget* window)
     connect(&session.screen(), &ScreenModel::flashRequested, this, &ControlBindingView::flash);
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget*, QWidget* now) { focusChanged(now); });
+}
+
+bool ControlBindingView::isDeferred(const ControlRow& row) {
+    return row.place == Place::MainTab || row.place == Place::LanguagePage;
+}
+
+void ControlBindingView::createTab(int tab) {
+    for (int id = 0; id < m_session.screen().count(); ++id)
+        if (const ControlRow& r = row(id);
+            r.place == Place::MainTab && r.placeIndex == tab && !m_created.contains(id))
+            create(id);
+    std::sort(m_ids.begin(), m_ids.end());
+}
+
+void ControlBindingView::completeWidgets() {
+    for (int id = 0; id < m_session.screen().count(); ++id)
+        if (isDeferred(row(id)) && !m_created.contains(id))
+            create(id);
+    std::sort(m_ids.begin(), m_ids.end());
 }
 
 QWidget* ControlBindingView::widget(int id) const {
@@ -129,6 +150,7 @@ void ControlBindingView::createCommand(int id) {
 void ControlBindingView::create(int id) {
     const ControlRow& r = row(id);
     m_ids.push_back(id);
+    m_created.insert(id);
     if (m_actions.contains(id))
         return;
     if (r.widget == WidgetType::MenuItem || r.widget == WidgetType::MenuSeparator) {

@@ -43,6 +43,11 @@ public:
 
     // Paints the whole model once (after the window is built).
     void repaintAll();
+    // The widgets of the tabs are made when their page is built (createTab, completeWidgets),
+    // so that the window shows without waiting for the tabs it does not show.
+    static bool isDeferred(const ControlRow& row);
+    void createTab(int tab);
+    void completeWidgets();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -60,6 +65,7 @@ private:
     EditingSession& m_session;
     QWidget* m_window;
     std::vector<int> m_ids;
+    QSet<int> m_created;
     QHash<int, QWidget*> m_widgets;
     QHash<int, QWidget*> m_labels;
     QHash<int, QAction*> m_actions;

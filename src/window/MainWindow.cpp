@@ -85,7 +85,6 @@ MainWindow::MainWindow(EditingSession& session, QWidget* parent)
     column->addWidget(buildCopyright());
     setCentralWidget(central);
     setStatusBar(qobject_cast<QStatusBar*>(m_view->widget(u"StatusBar1")));
-    setTabOrder();
     setCommandHandlers();
     addShortcuts();
     connect(&session, &EditingSession::closeRequested, this, [this] {
@@ -93,10 +92,49 @@ MainWindow::MainWindow(EditingSession& session, QWidget* parent)
         close();
     });
     m_view->repaintAll();
-    // Made after the widgets, so that it goes after them: their highlighters use its checker.
-    m_spelling = new SpellingView(*m_view, homeSpellChecker(session.store().home()), this);
     // 11000 by 8150 twips.
     resize(733, 543);
+}
+
+void MainWindow::buildFirstTab() {
+    if (m_pageAreas.front()->widget())
+        return;
+    m_view->createTab(0);
+    auto* page = new CompanyTabWidget(*m_view);
+    m_pageAreas.front()->setWidget(page);
+    page->show();
+    m_view->repaintAll();
+}
+
+bool MainWindow::event(QEvent* event) {
+    // After the first paint, the other tabs are built from the event loop.
+    if (event->type() == QEvent::Paint && !m_pagesComplete && !m_completionPosted) {
+        m_completionPosted = true;
+        QTimer::singleShot(0, this, &MainWindow::completePages);
+    }
+    return QMainWindow::event(event);
+}
+
+void MainWindow::completePages() {
+    if (m_pagesComplete)
+        return;
+    m_pagesComplete = true;
+    buildFirstTab();
+    m_view->completeWidgets();
+    QList<QWidget*> pages = {new ProgramTabWidget(*m_view), new DescriptionsTabWidget(*m_view),
+                             new WebInfoTabWidget(*m_view), new PermissionsTabWidget(*m_view)};
+    for (int extension = 0; extension < 4; ++extension)
+        pages << new AssociationTabWidget(*m_view, extension);
+    // Made after the widgets, so that it goes after them (their highlighters use its checker),
+    // and before they show, so that it sees them shown.
+    m_spelling = new SpellingView(*m_view, homeSpellChecker(m_session.store().home()), this);
+    for (int i = 0; i < pages.size(); ++i) {
+        m_pageAreas[i + 1]->setWidget(pages[i]);
+        // A scroll area on screen does not show what it is given by itself.
+        pages[i]->show();
+    }
+    setTabOrder();
+    m_view->repaintAll();
 }
 
 MainWindow::~MainWindow() = default;
@@ -127,21 +165,21 @@ void MainWindow::buildMenus() {
 
 QWidget* MainWindow::buildTabs() {
     auto* tabs = qobject_cast<QTabWidget*>(m_view->widget(u"SSTab1"));
-    QList<QWidget*> pages = {new CompanyTabWidget(*m_view), new ProgramTabWidget(*m_view),
-                             new DescriptionsTabWidget(*m_view), new WebInfoTabWidget(*m_view),
-                             new PermissionsTabWidget(*m_view)};
-    for (int extension = 0; extension < 4; ++extension)
-        pages << new AssociationTabWidget(*m_view, extension);
-    // Adding pages is not the user choosing a tab.
-    const QSignalBlocker quiet(tabs);
-    for (int i = 0; i < pages.size(); ++i) {
-        // A page taller than the window scrolls instead of being squeezed.
-        auto* scroll = new QScrollArea;
-        scroll->setWidgetResizable(true);
-        scroll->setFrameShape(QFrame::NoFrame);
-        scroll->setWidget(pages[i]);
-        tabs->addTab(scroll, mainTabCaptions().value(i));
+    {
+        // Adding pages is not the user choosing a tab.
+        const QSignalBlocker quiet(tabs);
+        for (int i = 0; i < mainTabCaptions().size(); ++i) {
+            // A page taller than the window scrolls instead of being squeezed.
+            auto* scroll = new QScrollArea;
+            scroll->setWidgetResizable(true);
+            scroll->setFrameShape(QFrame::NoFrame);
+            m_pageAreas << scroll;
+            tabs->addTab(scroll, mainTabCaptions().value(i));
+        }
     }
+    // The first tab when the window shows it (see showEvent), the others once the window has
+    // shown (see completePages). A tab chosen before then is built at once.
+    connect(tabs, &QTabWidget::currentChanged, this, &MainWindow::completePages);
     // The tabs and, when the window is too narrow for one row of them, their rows.
     auto* area = new QWidget;
     auto* column = new QVBoxLayout(area);
@@ -289,6 +327,10 @@ void MainWindow::showEvent(QShowEvent* event) {
     if (m_shown)
         return;
     m_shown = true;
+    // The first tab is built for the first paint when the tabs show (not on a first start).
+    if (auto* forms = findChild<QStackedWidget*>(QStringLiteral("stkForms"));
+        forms && forms->currentIndex() == 0)
+        buildFirstTab();
     // The rotation starts once the window is on screen, so it never delays start-up.
     QTimer::singleShot(0, m_banners, [this] { m_banners->LoadLocalBannerList(); });
 }

@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <memory>
 
+class QScrollArea;
+
 namespace brevaro {
 
 class BannerRotation;
@@ -26,15 +28,24 @@ public:
     ControlBindingView& view() { return *m_view; }
     BannerRotation& banners() { return *m_banners; }
     BannerStripWidget& bannerStrip() { return *m_strip; }
-    SpellingView& spelling() { return *m_spelling; }
+    SpellingView& spelling() {
+        completePages();
+        return *m_spelling;
+    }
+    // The window shows its first tab as soon as it can; the other tabs are built right after
+    // its first paint, or when one is chosen before that. True once they are.
+    bool pagesComplete() const { return m_pagesComplete; }
+    void completePages();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     void buildMenus();
     QWidget* buildTabs();
+    void buildFirstTab();
     QWidget* buildCopyright();
     void setTabOrder();
     void setCommandHandlers();
@@ -49,6 +60,9 @@ private:
     QPointer<PadCheckDialog> m_check;
     bool m_shutDown = false;
     bool m_shown = false;
+    bool m_pagesComplete = false;
+    bool m_completionPosted = false;
+    QList<QScrollArea*> m_pageAreas; // the scroll area of each tab
 };
 
 } // namespace brevaro

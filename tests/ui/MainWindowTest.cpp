@@ -56,6 +56,8 @@ protected:
         session->Start();
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        // The tabs after the first are built right after the window shows.
+        ASSERT_TRUE(QTest::qWaitFor([this] { return window->pagesComplete(); }, 5000));
     }
 
     template <typename T = QWidget> T* find(const QString& objectName) {
