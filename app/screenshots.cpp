@@ -23,6 +23,7 @@
 #include <QCursor>
 #include <QDialog>
 #include <QDir>
+#include <QFileInfo>
 #include <QFile>
 #include <QLineEdit>
 #include <QMenu>
@@ -177,7 +178,7 @@ int main(int argc, char* argv[]) {
     // The pointer away from the window, so no link is drawn as hovered.
     QCursor::setPos(1200, 0);
     if (argc < 3) {
-        qWarning("usage: brevaro-screenshots OUTPUT_DIR PAD_FILE [WIDTH HEIGHT]");
+        qWarning("usage: brevaro-screenshots OUTPUT_DIR PAD_FILE|HOME [WIDTH HEIGHT]");
         return 1;
     }
     const QString out = QString::fromLocal8Bit(argv[1]);
@@ -196,10 +197,16 @@ int main(int argc, char* argv[]) {
         window.show();
         ok &= save(window, out, "empty");
     }
+    // The product: a home's data as the command line made it, or a PAD file imported.
+    const QString source = QString::fromLocal8Bit(argv[2]);
+    const bool fromHome = QFileInfo(source).isDir();
+    if (fromHome)
+        for (const QFileInfo& file : QDir(AppHome(source).dataFolder()).entryInfoList(QDir::Files))
+            QFile::copy(file.filePath(), QDir(home.dataFolder()).filePath(file.fileName()));
     EditingSession session(store, prompts);
     MainWindow window(session);
     session.Start();
-    if (!session.pad().importPadFile(QString::fromLocal8Bit(argv[2]))) {
+    if (!fromHome && !session.pad().importPadFile(source)) {
         qWarning("%s is not a PAD file", argv[2]);
         return 1;
     }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Writes the documentation's pictures of the window to docs/screenshots: a made-up company and
-# product are entered with brevaro-cli, written as a PAD file and imported by the window.
+# product are entered with brevaro-cli, and the window opens a copy of that home.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 out=${1:-docs/screenshots}
@@ -39,8 +39,8 @@ cli set -c 1 -p 1 LinkedinPage=https://www.linkedin.example/northwind \
     "Headline=Harbour Notes 2.4 syncs your notes between machines" \
     "Summary=The outliner for notes, journals and lists now keeps every machine in step." \
     NewsFeed_Feed_URL=https://www.northwind.example/news.xml "NewsFeed_Type=RSS 2.0"
-# The window imports the product from a PAD 4.0 file, which carries the later versions' fields.
-build/bin/brevaro-cli --home "$tmp/home" pad -c 1 -p 1 --format 4.0 -o "$tmp/harbour.xml" >/dev/null
+cli set -c 1 -p 1 PAD_Version=4.0 "Windows_Versions=Windows 10,Windows 11" "Linux_Packages=deb,AppImage" \
+    Application_Identifier=example.northwind.HarbourNotes
 mkdir -p "$out"
 # The windows that fetch (keywords, site list, browser) use the demo maker's server.
 port=8765 # the port the demo data names
@@ -49,5 +49,5 @@ server=$!
 trap 'kill $server 2>/dev/null; rm -rf "$tmp"' EXIT
 sleep 1
 # The window is drawn by a real X server so that fonts and themes are those of a desktop.
-QTWEBENGINE_CHROMIUM_FLAGS=--disable-gpu BREVARO_SERVER="http://127.0.0.1:$port" xvfb-run -a build/bin/brevaro-screenshots "$out" "$tmp/harbour.xml" "${size[@]}"
+QTWEBENGINE_CHROMIUM_FLAGS=--disable-gpu BREVARO_SERVER="http://127.0.0.1:$port" xvfb-run -a build/bin/brevaro-screenshots "$out" "$tmp/home" "${size[@]}"
 ls "$out"
