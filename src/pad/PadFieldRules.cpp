@@ -74,13 +74,25 @@ constexpr Rewrite kRewrites[] = {
 };
 
 QString adviceFor(const QString& meaning) {
-    for (const Rewrite& r : kRewrites) {
-        const QRegularExpression from(QString::fromUtf8(r.meaning));
-        if (from.match(meaning).hasMatch())
-            return QString(meaning).replace(
-                QRegularExpression(from.pattern() + QStringLiteral(".*$")),
-                QString::fromUtf8(r.advice));
-    }
+    // Each rewrite's pattern, and the same to the end of the text, compiled once for all rules.
+    struct Compiled {
+        QRegularExpression from;
+        QRegularExpression whole;
+        QString advice;
+    };
+    static const std::vector<Compiled> rewrites = [] {
+        std::vector<Compiled> compiled;
+        for (const Rewrite& r : kRewrites) {
+            const QString pattern = QString::fromUtf8(r.meaning);
+            compiled.push_back({QRegularExpression(pattern),
+                                QRegularExpression(pattern + QStringLiteral(".*$")),
+                                QString::fromUtf8(r.advice)});
+        }
+        return compiled;
+    }();
+    for (const Compiled& r : rewrites)
+        if (r.from.match(meaning).hasMatch())
+            return QString(meaning).replace(r.whole, r.advice);
     return QStringLiteral("should follow the published rule: ") + meaning;
 }
 

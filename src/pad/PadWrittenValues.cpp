@@ -34,7 +34,7 @@ std::vector<PadWrittenValue> padWrittenValues(const CompanyRecord& company,
     std::vector<PadWrittenValue> out;
     auto add = [&](RecordSide side, int field, int entry, const QString& value) {
         out.push_back(
-            {QLatin1String(layoutOf(side).field(field).padElement), value, side, field, entry});
+            {QLatin1String(layoutOf(side).field(field).padElement), value, side, field, entry, {}});
     };
     auto addProgram = [&](PF f, const QString& value, int entry = 0) {
         add(RecordSide::Program, static_cast<int>(f), entry, value);
@@ -75,7 +75,7 @@ std::vector<PadWrittenValue> padWrittenValues(const CompanyRecord& company,
         return padWrittenValues(company, program);
     std::vector<PadWrittenValue> out;
     auto add = [&](const char* element, RecordSide side, int field, int entry, QString value) {
-        out.push_back({QLatin1String(element), std::move(value), side, field, entry});
+        out.push_back({QLatin1String(element), std::move(value), side, field, entry, {}});
     };
     bool blockActive = false;
     for (const LaterPadRow& row : laterPadRows()) {
