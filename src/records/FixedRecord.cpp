@@ -85,6 +85,15 @@ void FixedRecord::setText(int field, QStringView value, int index) {
     std::copy_n(bytes.constData(), n, dst);
     std::fill(dst + n, dst + f.width, ' ');
 
+    // Most values fit and have a byte for every character: the record holds them whole, and
+    // with no whole text kept there is nothing more to do.
+    if (m_whole.isEmpty() && bytes.size() == value.size() && bytes.size() <= f.width) {
+        bool substituted = false;
+        for (qsizetype i = 0; i < bytes.size() && !substituted; ++i)
+            substituted = bytes[i] == '?' && value[i] != u'?';
+        if (!substituted)
+            return;
+    }
     const QString held = trimBlanks(fromWin1252(dst, f.width));
     const QString typed = trimBlanks(value);
     const auto whole = m_whole.find(wholeKey(f, index));
