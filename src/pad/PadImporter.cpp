@@ -181,6 +181,14 @@ const QHash<QString, ExtraTarget>& extraTargets() {
     return table;
 }
 
+// Tokens of a published list, in the list's order, joined by commas.
+QString inListOrder(QStringList tokens, const QStringList& list) {
+    std::sort(tokens.begin(), tokens.end(), [&](const QString& a, const QString& b) {
+        return list.indexOf(a) < list.indexOf(b);
+    });
+    return tokens.join(u',');
+}
+
 // The 1.15 list items a list element marks: those its text names, and for the systems those
 // a later token names exactly.
 QList<bool> markedItems(ProgramField f, const QString& value) {
@@ -218,10 +226,7 @@ QString laterTokensOfOldList(ProgramField f, const QString& value) {
     }
     if (!more)
         return QString();
-    std::sort(tokens.begin(), tokens.end(), [&](const QString& a, const QString& b) {
-        return list.indexOf(a) < list.indexOf(b);
-    });
-    return tokens.join(u',');
+    return inListOrder(tokens, list);
 }
 
 // The later tokens of a list element of a later file: those of the later list, and for a
@@ -241,10 +246,7 @@ QString laterTokensOfLaterList(ProgramField f, const QString& value) {
         if (list.contains(t) && !tokens.contains(t))
             tokens << t;
     }
-    std::sort(tokens.begin(), tokens.end(), [&](const QString& a, const QString& b) {
-        return list.indexOf(a) < list.indexOf(b);
-    });
-    return tokens.join(u',');
+    return inListOrder(tokens, list);
 }
 
 // Keeps in value only what the published list of an extra field has (a field without a list

@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QListWidget>
 #include <QVBoxLayout>
 
 namespace brevaro {
@@ -34,6 +35,16 @@ FormPageWidget::FormPageWidget(ControlBindingView& view, int tab, QWidget* paren
 
 QWidget* FormPageWidget::control(QStringView name, int index) {
     return m_view.widget(name, index);
+}
+
+void FormPageWidget::showListRows(QStringView name, int rows) {
+    auto* list = qobject_cast<QListWidget*>(control(name));
+    if (!list)
+        return;
+    const int height = list->fontMetrics().height() * rows + 2 * list->frameWidth();
+    list->setMinimumHeight(height);
+    if (rows < 5)
+        list->setMaximumHeight(height + 4);
 }
 
 QGroupBox* FormPageWidget::frame(const QString& name) {

@@ -26,6 +26,8 @@ protected:
     QGroupBox* frame(const QString& name);
     // The widget of a control.
     QWidget* control(QStringView name, int index = -1);
+    // A list shows rows entries and scrolls; a short one (fewer than 5) does not grow either.
+    void showListRows(QStringView name, int rows);
     // Lays out the controls of frame (empty: the page itself) that sit directly in it, in
     // table order, on the form rows of layout.
     void fillRows(const QString& frameName, QLayout* layout);

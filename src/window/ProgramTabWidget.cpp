@@ -31,17 +31,11 @@ ProgramTabWidget::ProgramTabWidget(ControlBindingView& view, QWidget* parent)
     for (auto name : {"Frame7", "Frame8", "Frame9", "Frame10", "frmPublishing"})
         m_frames << frame(QString::fromLatin1(name));
     // The lists show a handful of entries and scroll.
-    const std::pair<const char16_t*, int> lists[] = {{u"lstSupportedOS", 5},
-                                                     {u"lstLanguages", 5},
-                                                     {u"lstProgramOSSupport", 3},
-                                                     {u"lstProgramLanguage", 3}};
-    for (const auto& [name, rows] : lists)
-        if (auto* list = qobject_cast<QListWidget*>(control(name))) {
-            const int height = list->fontMetrics().height() * rows + 2 * list->frameWidth();
-            list->setMinimumHeight(height);
-            if (rows < 5)
-                list->setMaximumHeight(height + 4);
-        }
+    for (const auto& [name, rows] : {std::pair{u"lstSupportedOS", 5},
+                                     {u"lstLanguages", 5},
+                                     {u"lstProgramOSSupport", 3},
+                                     {u"lstProgramLanguage", 3}})
+        showListRows(name, rows);
     arrange(false);
 }
 

@@ -1,7 +1,6 @@
 #include "window/WebInfoTabWidget.h"
 
 #include <QGroupBox>
-#include <QListWidget>
 #include <QVBoxLayout>
 
 namespace brevaro {
@@ -16,11 +15,10 @@ WebInfoTabWidget::WebInfoTabWidget(ControlBindingView& view, QWidget* parent)
     column->addWidget(frame(QStringLiteral("frmNewsFeed")));
     column->addStretch();
     // The short lists show a few entries and scroll.
-    const std::pair<const char16_t*, int> lists[] = {
-        {u"lstWindowsVersions", 2}, {u"lstLinuxPackages", 3}, {u"lstInstallerArchitectures", 3}};
-    for (const auto& [name, rows] : lists)
-        if (auto* list = qobject_cast<QListWidget*>(control(name)))
-            list->setFixedHeight(list->fontMetrics().height() * rows + 2 * list->frameWidth() + 4);
+    for (const auto& [name, rows] : {std::pair{u"lstWindowsVersions", 2},
+                                     {u"lstLinuxPackages", 3},
+                                     {u"lstInstallerArchitectures", 3}})
+        showListRows(name, rows);
 }
 
 } // namespace brevaro
