@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <future>
 
 namespace brevaro::cli {
 
@@ -34,15 +35,15 @@ QDate dateOption(const CliArgs& args) {
     return date;
 }
 
+// The release's input with its files named but not yet read: hashing them is the longest part
+// of a release, so it runs beside the loading of the home (see hashFiles).
 ReleaseInput releaseInput(const CliArgs& args) {
     ReleaseInput input;
     input.version = args.required(QStringLiteral("--version"));
     for (const QString& path : args.values(QStringLiteral("--file"))) {
-        DistributionFile file;
-        QString error;
-        if (!readDistributionFile(path, &file, &error))
-            throw CliError{2, error};
-        input.files.push_back(file);
+        if (const QString problem = distributionFileProblem(path); !problem.isEmpty())
+            throw CliError{2, problem};
+        input.files.push_back({path, QFileInfo(path).fileName(), 0, {}});
     }
     input.date = dateOption(args);
     if (args.has(QStringLiteral("--changes")))
@@ -50,6 +51,25 @@ ReleaseInput releaseInput(const CliArgs& args) {
     if (const QString problem = releaseInputProblem(input); !problem.isEmpty())
         throw CliError{2, problem};
     return input;
+}
+
+struct HashedFiles {
+    std::vector<DistributionFile> files;
+    QString error;
+};
+
+// Reads every file of the input for its size and hash on another thread.
+std::future<HashedFiles> hashFiles(const ReleaseInput& input) {
+    return std::async(std::launch::async, [named = input.files] {
+        HashedFiles out;
+        for (const DistributionFile& f : named) {
+            DistributionFile file;
+            if (!readDistributionFile(f.path, &file, &out.error))
+                break;
+            out.files.push_back(file);
+        }
+        return out;
+    });
 }
 
 // Saves the release in the command's one save, before anything is written.
@@ -90,10 +110,15 @@ int releaseCommand(CliContext& ctx, const QStringList& words) {
     if (args.values(QStringLiteral("--file")).isEmpty())
         throw CliError{1, QStringLiteral("give at least one --file DIST")};
     const bool dryRun = args.has(QStringLiteral("--dry-run"));
-    const ReleaseInput input = releaseInput(args);
+    ReleaseInput input = releaseInput(args);
+    std::future<HashedFiles> hashing = hashFiles(input);
     EditingSession& s = dryRun ? ctx.readingSession() : ctx.session();
     const int c = ctx.company(args.required(QStringLiteral("-c")));
     ctx.select(c, ctx.program(ctx.companyId(c), args.required(QStringLiteral("-p"))));
+    HashedFiles hashed = hashing.get();
+    if (!hashed.error.isEmpty())
+        throw CliError{2, hashed.error};
+    input.files = std::move(hashed.files);
 
     const ReleasePlan plan = planRelease(s.program(), input);
     ctx.print(QStringLiteral("%1 %2: %3\n")
@@ -107,13 +132,18 @@ int releaseCommand(CliContext& ctx, const QStringList& words) {
                       .arg(change.field, shown(change.before), shown(change.after)));
     for (const QString& note : plan.notes)
         ctx.print(QStringLiteral("note: %1\n").arg(note));
+    // The outputs are made from copies of the records while the save waits for the disk.
+    std::future<std::vector<Output>> building =
+        std::async(std::launch::async, buildAllOutputs, s.company(), plan.program,
+                   s.text(u"lblOrganization", 0));
     if (!dryRun && !plan.changes.empty())
         saveReleased(ctx, plan.program);
-
-    const std::vector<Output> outputs =
-        buildAllOutputs(s.company(), plan.program, s.text(u"lblOrganization", 0));
-    QTemporaryDir scratch;
-    const QString folder = dryRun ? scratch.path()
+    const std::vector<Output> outputs = building.get();
+    // A dry run writes into a folder of its own that is removed afterwards.
+    std::optional<QTemporaryDir> scratch;
+    if (dryRun)
+        scratch.emplace();
+    const QString folder = dryRun ? scratch->path()
                            : args.has(QStringLiteral("--out"))
                                ? QFileInfo(args.value(QStringLiteral("--out"))).absoluteFilePath()
                                : programOutputFolder(ctx.home().padFolder(), s.company());

@@ -102,7 +102,11 @@ bool PadFieldRule::accepts(const QString& value) const {
     return regex.match(value).hasMatch();
 }
 
-// A table, parsed once; the advice of each rule is phrased here, once.
+QString PadFieldRule::advice() const {
+    return adviceFor(meaning);
+}
+
+// A table, parsed once.
 std::vector<PadFieldRule> parsePadFieldRules(const QString& resource) {
     std::vector<PadFieldRule> rules;
     // The published table, built into the program as a resource.
@@ -125,7 +129,6 @@ std::vector<PadFieldRule> parsePadFieldRules(const QString& resource) {
         rule.regex = QRegularExpression(portablePattern(rule.pattern));
         rule.meaning = cells[3];
         rule.required = cells[4] == QLatin1String("yes");
-        rule.m_advice = adviceFor(rule.meaning);
         Q_ASSERT_X(rule.regex.isValid(), "padFieldRules", qPrintable(rule.element));
         rules.push_back(std::move(rule));
     }
@@ -133,11 +136,15 @@ std::vector<PadFieldRule> parsePadFieldRules(const QString& resource) {
 }
 
 const std::vector<PadFieldRule>& padFieldRules(PadVersion version) {
+    // Each table is read the first time it is asked for, not before.
+    if (version == PadVersion::V4_0) {
+        static const std::vector<PadFieldRule> v40 =
+            parsePadFieldRules(QStringLiteral(":/pad/PadFieldRules40.tsv"));
+        return v40;
+    }
     static const std::vector<PadFieldRule> current =
         parsePadFieldRules(QStringLiteral(":/pad/PadFieldRules.tsv"));
-    static const std::vector<PadFieldRule> v40 =
-        parsePadFieldRules(QStringLiteral(":/pad/PadFieldRules40.tsv"));
-    return version == PadVersion::V4_0 ? v40 : current;
+    return current;
 }
 
 const PadFieldRule* padFieldRule(QStringView element, PadVersion version) {

@@ -23,11 +23,8 @@ struct PadFieldRule {
     // the text, or just before one final line break.
     bool accepts(const QString& value) const;
     // The meaning said to an author: "should be an e-mail address (name@domain.tld)", ...
-    const QString& advice() const { return m_advice; }
-
-private:
-    friend std::vector<PadFieldRule> parsePadFieldRules(const QString& resource);
-    QString m_advice;
+    // Phrased when asked: only the rules a file breaks need it.
+    QString advice() const;
 };
 
 // Every rule of a version, in the order of its table: 4.0 has its own; 1.15 files are checked

@@ -5,7 +5,9 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStorageInfo>
+#include <fcntl.h>
 #include <filesystem>
+#include <memory>
 
 namespace brevaro {
 
@@ -137,12 +139,35 @@ bool replaceFile(const QString& from, const QString& to) {
 }
 
 bool writeFileAtomically(const QString& path, const QByteArray& bytes, QString* error) {
-    QSaveFile out(path);
-    if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.commit()) {
-        *error = plainWriteError(out, bytes.size());
-        return false;
+    std::vector<FileToWrite> one{{path, &bytes, {}}};
+    if (writeFilesAtomically(one))
+        return true;
+    *error = one.front().error;
+    return false;
+}
+
+bool writeFilesAtomically(std::vector<FileToWrite>& files) {
+    // Every file is handed to the disk before the first wait for one: the waits then overlap
+    // instead of following each other.
+    std::vector<std::unique_ptr<QSaveFile>> pending;
+    for (FileToWrite& f : files) {
+        auto out = std::make_unique<QSaveFile>(f.path);
+        if (!out->open(QIODevice::WriteOnly) || out->write(*f.bytes) != f.bytes->size() ||
+            !out->flush()) {
+            f.error = plainWriteError(*out, f.bytes->size());
+            out.reset();
+        } else {
+            ::sync_file_range(out->handle(), 0, 0, SYNC_FILE_RANGE_WRITE);
+        }
+        pending.push_back(std::move(out));
     }
-    return true;
+    bool ok = true;
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        if (pending[i] && !pending[i]->commit())
+            files[i].error = plainWriteError(*pending[i], files[i].bytes->size());
+        ok = ok && files[i].error.isEmpty();
+    }
+    return ok;
 }
 
 } // namespace brevaro

@@ -32,6 +32,15 @@ bool readRegularFile(const QString& path, qint64 maxBytes, ByteBlock* out, QStri
 // Replaces the file with bytes through a temporary file renamed into place; false with a
 // plain, one-line reason ("the disk is full", ...) in *error.
 bool writeFileAtomically(const QString& path, const QByteArray& bytes, QString* error);
+// One file of writeFilesAtomically, and the reason it could not be written.
+struct FileToWrite {
+    QString path;
+    const QByteArray* bytes = nullptr;
+    QString error;
+};
+// Replaces each file as writeFileAtomically does, quicker than one after the other; false when
+// any could not be written (the others are written all the same).
+bool writeFilesAtomically(std::vector<FileToWrite>& files);
 // Renames from over to, replacing it in one step; false when that cannot be done.
 bool replaceFile(const QString& from, const QString& to);
 // The reason a write to file failed, in plain words.

@@ -12,6 +12,10 @@ struct DistributionFile {
     QString sha256;
 };
 
+// Why path cannot be a distribution file (there is none, it is a folder, it cannot be read),
+// or nothing: what can be told without reading it.
+QString distributionFileProblem(const QString& path);
+
 // Reads path through once for its size and hash; false with a plain reason when it is not a
 // readable regular file.
 bool readDistributionFile(const QString& path, DistributionFile* out, QString* error);

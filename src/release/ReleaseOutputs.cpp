@@ -14,6 +14,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <future>
 
 namespace brevaro {
 
@@ -129,9 +130,14 @@ Output buildOutput(OutputFormat format, const CompanyRecord& company, const Prog
 
 std::vector<Output> buildAllOutputs(const CompanyRecord& company, const ProgramRecord& program,
                                     const QString& aspSite) {
-    std::vector<Output> outputs;
+    // The outputs do not depend on each other: each is made on a thread of its own.
+    std::vector<std::future<Output>> making;
     for (const FormatName& f : kFormats)
-        outputs.push_back(buildOutput(f.format, company, program, aspSite));
+        making.push_back(std::async(std::launch::async, buildOutput, f.format, std::cref(company),
+                                    std::cref(program), std::cref(aspSite)));
+    std::vector<Output> outputs;
+    for (std::future<Output>& m : making)
+        outputs.push_back(m.get());
     return outputs;
 }
 
@@ -142,6 +148,8 @@ bool writeOutputFiles(const QString& folder, const std::vector<Output>& outputs,
             QStringLiteral("the folder %1 cannot be made").arg(QDir::toNativeSeparators(folder));
         return false;
     }
+    std::vector<WrittenFile> files;
+    std::vector<FileToWrite> changed;
     for (const Output& output : outputs)
         for (const OutputFile& file : output.files) {
             const QString path = QDir::toNativeSeparators(QDir(folder).filePath(file.fileName));
@@ -149,13 +157,17 @@ bool writeOutputFiles(const QString& folder, const std::vector<Output>& outputs,
             const bool same = existing.size() == file.bytes.size() &&
                               existing.open(QIODevice::ReadOnly) &&
                               existing.readAll() == file.bytes;
-            existing.close();
-            if (!same && !writeFileAtomically(path, file.bytes, error)) {
-                *error = QStringLiteral("%1 cannot be written: %2").arg(path, *error);
-                return false;
-            }
-            written->push_back({path, !same});
+            files.push_back({path, !same});
+            if (!same)
+                changed.push_back({path, &file.bytes, {}});
         }
+    if (!writeFilesAtomically(changed)) {
+        const auto failed = std::find_if(changed.begin(), changed.end(),
+                                         [](const FileToWrite& f) { return !f.error.isEmpty(); });
+        *error = QStringLiteral("%1 cannot be written: %2").arg(failed->path, failed->error);
+        return false;
+    }
+    written->insert(written->end(), files.begin(), files.end());
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include "release/ReleaseStep.h"
 
+#include "platform/DayNumbers.h"
 #include "records/ExtraFields.h"
 
 namespace brevaro {
@@ -104,8 +105,7 @@ std::vector<ReleaseEntry> releaseHistory(const ProgramRecord& program) {
     std::vector<ReleaseEntry> entries;
     for (const QString& line : program.laterValue(kHistoryField).split(u'\n', Qt::SkipEmptyParts)) {
         const QStringList parts = line.split(u' ', Qt::SkipEmptyParts);
-        const QDate date =
-            parts.size() == 2 ? QDate::fromString(parts[1], QStringLiteral("yyyy-MM-dd")) : QDate();
+        const QDate date = parts.size() == 2 ? dateFromText(parts[1]) : QDate();
         if (date.isValid())
             entries.push_back({parts[0], date});
     }

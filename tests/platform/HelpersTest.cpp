@@ -5,6 +5,7 @@
 
 #include <QStringDecoder>
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -31,6 +32,16 @@ TEST(DayNumbers, DifferencesAndForms) {
     EXPECT_EQ(dayNumber(u"yesterday"_s), 0);
     EXPECT_EQ(dayNumber(u"2024-02-30"_s), 0);
     EXPECT_EQ(dateText(QDate(2026, 1, 5)), u"2026-01-05"_s);
+}
+
+// The quick reader takes back every date the program writes and nothing else.
+TEST(DayNumbers, DateFromTextTakesOnlyTheWrittenForm) {
+    for (QDate d(1999, 12, 25); d < QDate(2001, 3, 5); d = d.addDays(1))
+        ASSERT_EQ(dateFromText(dateText(d)), d) << qPrintable(dateText(d));
+    for (const QString& bad :
+         {u"2026-1-05"_s, u"2026-02-30"_s, u"2026-13-01"_s, u"2026-01-05 "_s, u"2026/01/05"_s,
+          u"20x6-01-05"_s, u"\u0662\u0660\u0662\u0666-01-05"_s, QString()})
+        EXPECT_FALSE(dateFromText(bad).isValid()) << qPrintable(bad);
 }
 
 // Our table agrees with Qt's own codec on every byte, both ways; the five bytes the set leaves
@@ -83,4 +94,19 @@ TEST(FileHelpers, BoundedReadsAndPlainWriteErrors) {
     EXPECT_TRUE(writeFileAtomically(path, "new", &error));
     EXPECT_FALSE(writeFileAtomically(dir.filePath(u"no/f"_s), "x", &error));
     EXPECT_TRUE(error.contains(u"does not exist"_s)) << error.toStdString();
+
+    // Several at once: one that cannot be written does not keep the others from being written.
+    const QByteArray first("first"), second("second"), third("third");
+    std::vector<FileToWrite> files{{dir.filePath(u"a"_s), &first, {}},
+                                   {dir.filePath(u"no/b"_s), &second, {}},
+                                   {path, &third, {}}};
+    EXPECT_FALSE(writeFilesAtomically(files));
+    EXPECT_TRUE(files[0].error.isEmpty());
+    EXPECT_TRUE(files[1].error.contains(u"does not exist"_s)) << files[1].error.toStdString();
+    EXPECT_TRUE(files[2].error.isEmpty());
+    EXPECT_TRUE(readRegularFile(dir.filePath(u"a"_s), 100, &out, &error));
+    EXPECT_EQ(out, first);
+    EXPECT_TRUE(readRegularFile(path, 100, &out, &error));
+    EXPECT_EQ(out, third);
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files).size(), 2); // no temporary files are left
 }
