@@ -90,24 +90,21 @@ int child(int argc, char** argv, const QString& mode, const QString& homePath) {
 }
 
 struct Sample {
-    double ms;
-    long kb;
+    double ms = 0;
+    long kb = 0;
 };
 
-Sample measure(const QString& self, const QStringList& args, int runs) {
-    std::vector<double> times;
-    std::vector<long> sizes;
-    for (int i = 0; i < runs; ++i) {
-        QProcess p;
-        p.start(self, QStringList{QStringLiteral("--child")} + args);
-        p.waitForFinished(60000);
-        const QList<QByteArray> parts = p.readAllStandardOutput().trimmed().split(' ');
-        times.push_back(parts.value(0).toDouble());
-        sizes.push_back(parts.value(1).toLong());
-    }
-    std::sort(times.begin(), times.end());
-    std::sort(sizes.begin(), sizes.end());
-    return {times[times.size() / 2], sizes[sizes.size() / 2]};
+Sample runOnce(const QString& self, const QStringList& args) {
+    QProcess p;
+    p.start(self, QStringList{QStringLiteral("--child")} + args);
+    p.waitForFinished(60000);
+    const QList<QByteArray> parts = p.readAllStandardOutput().trimmed().split(' ');
+    return {parts.value(0).toDouble(), parts.value(1).toLong()};
+}
+
+template <typename T> T median(std::vector<T> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
 }
 
 } // namespace
@@ -135,18 +132,33 @@ int main(int argc, char** argv) {
         }
     }
     const QString self = QCoreApplication::applicationFilePath();
-    const Sample bare = measure(self, {QStringLiteral("bare"), QStringLiteral("-")}, runs);
+    // The windows take turns, run after run, so that each ratio compares starts made under the
+    // same load of the machine; the ratio shown is the median of those of each run.
+    const std::vector<std::pair<const char*, QStringList>> windows = {
+        {"bare QMainWindow", {QStringLiteral("bare"), QStringLiteral("-")}},
+        {"bare window, one combo box", {QStringLiteral("combo"), QStringLiteral("-")}},
+        {"Brevaro, empty home", {QStringLiteral("main"), empty.path()}},
+        {"Brevaro, 10,000 companies", {QStringLiteral("main"), big.path()}}};
+    std::vector<std::vector<Sample>> samples(windows.size());
+    for (int i = 0; i < runs; ++i)
+        for (std::size_t w = 0; w < windows.size(); ++w)
+            samples[w].push_back(runOnce(self, windows[w].second));
     std::printf("%-28s %10s %10s %8s %8s\n", "window", "paint ms", "RSS KB", "x time", "x memory");
-    std::printf("%-28s %10.1f %10ld\n", "bare QMainWindow", bare.ms, bare.kb);
-    const Sample combo = measure(self, {QStringLiteral("combo"), QStringLiteral("-")}, runs);
-    std::printf("%-28s %10.1f %10ld %8.2f %8.2f\n", "bare window, one combo box", combo.ms,
-                combo.kb, combo.ms / bare.ms, double(combo.kb) / double(bare.kb));
-    const std::pair<const char*, QString> homes[] = {{"Brevaro, empty home", empty.path()},
-                                                     {"Brevaro, 10,000 companies", big.path()}};
-    for (const auto& [name, path] : homes) {
-        const Sample s = measure(self, {QStringLiteral("main"), path}, runs);
-        std::printf("%-28s %10.1f %10ld %8.2f %8.2f\n", name, s.ms, s.kb, s.ms / bare.ms,
-                    double(s.kb) / double(bare.kb));
+    for (std::size_t w = 0; w < windows.size(); ++w) {
+        std::vector<double> ms, timeRatio, memoryRatio;
+        std::vector<long> kb;
+        for (int i = 0; i < runs; ++i) {
+            const Sample& s = samples[w][i];
+            const Sample& bare = samples[0][i];
+            ms.push_back(s.ms);
+            kb.push_back(s.kb);
+            timeRatio.push_back(s.ms / bare.ms);
+            memoryRatio.push_back(double(s.kb) / double(bare.kb));
+        }
+        std::printf("%-28s %10.1f %10ld", windows[w].first, median(ms), median(kb));
+        if (w > 0)
+            std::printf(" %8.2f %8.2f", median(timeRatio), median(memoryRatio));
+        std::printf("\n");
     }
     return 0;
 }

@@ -91,12 +91,14 @@ std::optional<QByteArray> RecordFile::read(int n) const {
     return bytes;
 }
 
-std::vector<QByteArray> RecordFile::readSlices(int offset, int length) const {
-    std::vector<QByteArray> slices;
+void RecordFile::forEachSlice(int offset, int length,
+                              const std::function<void(QByteArrayView)>& visit) const {
     if (const QByteArray* bytes = pendingBytes()) {
         for (qsizetype at = 0; at < bytes->size(); at += recordLength())
-            slices.push_back(bytes->mid(at + offset, length));
-        return slices;
+            visit(
+                QByteArrayView(bytes->constData() + std::min<qsizetype>(at + offset, bytes->size()),
+                               std::clamp<qsizetype>(bytes->size() - at - offset, 0, length)));
+        return;
     }
     // Short records are read many at a time into one buffer; long ones slice by slice,
     // unbuffered, so that only the slices are read.
@@ -104,14 +106,15 @@ std::vector<QByteArray> RecordFile::readSlices(int offset, int length) const {
     QFile file(m_path);
     if (!file.open(perBlock > 1 ? QIODevice::ReadOnly
                                 : QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return slices;
+        return;
     const int n = countFor(file.size(), recordLength());
-    slices.reserve(static_cast<std::size_t>(n));
-    QByteArray block(perBlock > 1 ? qsizetype(perBlock) * recordLength() : 0, Qt::Uninitialized);
+    QByteArray block(perBlock > 1 ? qsizetype(perBlock) * recordLength() : length,
+                     Qt::Uninitialized);
     qint64 blockBytes = 0;
     int blockStart = 0;
+    QByteArray shortSlice;
     for (int i = 0; i < n; ++i) {
-        QByteArray slice;
+        QByteArrayView slice;
         if (perBlock > 1) {
             if (i == 0 || i - blockStart >= perBlock) {
                 blockStart = i;
@@ -119,16 +122,20 @@ std::vector<QByteArray> RecordFile::readSlices(int offset, int length) const {
             }
             const qint64 at = qint64(i - blockStart) * recordLength() + offset;
             if (at < blockBytes)
-                slice =
-                    QByteArray(block.constData() + at, std::min<qint64>(length, blockBytes - at));
+                slice = QByteArrayView(block.constData() + at,
+                                       std::min<qint64>(length, blockBytes - at));
         } else if (file.seek(qint64(i) * recordLength() + offset)) {
-            slice = file.read(length);
+            slice = QByteArrayView(block.constData(),
+                                   std::max<qint64>(0, file.read(block.data(), length)));
         }
-        if (slice.size() < length)
-            slice += m_empty.mid(offset + slice.size(), length - slice.size());
-        slices.push_back(slice);
+        if (slice.size() < length) {
+            // The end of a short last record: the rest as an empty record has it.
+            shortSlice =
+                slice.toByteArray() + m_empty.mid(offset + slice.size(), length - slice.size());
+            slice = shortSlice;
+        }
+        visit(slice);
     }
-    return slices;
 }
 
 std::optional<std::vector<QByteArray>> RecordFile::readAll() {

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <functional>
 #include <map>
 #include <optional>
 #include <vector>
@@ -38,8 +39,10 @@ public:
 
     // Record n, or nothing when n is not a record of the file.
     std::optional<QByteArray> read(int n) const;
-    // From every record, the bytes at [offset, offset + length): reads only those bytes.
-    std::vector<QByteArray> readSlices(int offset, int length) const;
+    // From every record, the bytes at [offset, offset + length), handed to visit (valid only
+    // during the call): reads only those bytes.
+    void forEachSlice(int offset, int length,
+                      const std::function<void(QByteArrayView)>& visit) const;
     // Every record; nothing (and errorString()) when the file cannot be read whole.
     std::optional<std::vector<QByteArray>> readAll();
 

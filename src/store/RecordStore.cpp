@@ -19,11 +19,18 @@ constexpr auto kMovingSuffix = ".moving";
 constexpr auto kDoomedSuffix = ".doomed";
 constexpr auto kPendingSuffix = ".pending";
 
-QStringList trimmedNames(const std::vector<QByteArray>& slices) {
+// The name of every record of file, without its surrounding blanks. A blank is one byte in
+// Windows-1252, so the bytes are trimmed before they are decoded, once.
+QStringList trimmedNames(const RecordFile& file, const RecordField& name) {
     QStringList names;
-    names.reserve(static_cast<qsizetype>(slices.size()));
-    for (const auto& s : slices)
-        names << trimBlanks(fromWin1252(s));
+    file.forEachSlice(name.offset, name.size(), [&](QByteArrayView slice) {
+        qsizetype begin = 0, end = slice.size();
+        while (begin < end && slice[begin] == ' ')
+            ++begin;
+        while (end > begin && slice[end - 1] == ' ')
+            --end;
+        names << fromWin1252(slice.data() + begin, end - begin);
+    });
     return names;
 }
 
@@ -165,7 +172,7 @@ bool RecordStore::writeCompany(int n, const CompanyRecord& record) {
 
 QStringList RecordStore::companyNames() const {
     const RecordField& f = nameField(companyLayout());
-    return trimmedNames(companyFile().readSlices(f.offset, f.size()));
+    return trimmedNames(companyFile(), f);
 }
 
 bool RecordStore::readProgram(int companyId, int n, ProgramRecord& record) const {
@@ -204,7 +211,7 @@ QStringList RecordStore::programNames(int companyId) const {
     if (cached != m_programNames.end())
         return cached->second;
     const RecordField& f = nameField(programLayout());
-    QStringList names = trimmedNames(programFile(companyId).readSlices(f.offset, f.size()));
+    QStringList names = trimmedNames(programFile(companyId), f);
     // Only a batch keeps them: then no other writer changes the files.
     if (m_batching)
         m_programNames[companyId] = names;
@@ -347,8 +354,9 @@ bool RecordStore::deleteCompanyNow(int n) {
 std::vector<int> RecordStore::companyIds() const {
     std::vector<int> ids;
     const RecordField& idField = companyLayout().fields[0];
-    for (const auto& slice : companyFile().readSlices(idField.offset, idField.size()))
-        ids.push_back(qFromLittleEndian<qint32>(slice.constData()));
+    companyFile().forEachSlice(idField.offset, idField.size(), [&](QByteArrayView slice) {
+        ids.push_back(qFromLittleEndian<qint32>(slice.data()));
+    });
     return ids;
 }
 

@@ -2,6 +2,7 @@
 
 #include "controls/ControlIcons.h"
 #include "window/ControlWidget.h"
+#include "window/DeferredIcon.h"
 
 #include "session/EditingSession.h"
 #include "window/LinkLabelWidget.h"
@@ -141,7 +142,7 @@ void ControlBindingView::createCommand(int id) {
     auto* a = new QAction(r.caption, this);
     a->setObjectName(r.objectName());
     if (const QString icon = iconPath(r); !icon.isEmpty())
-        a->setIcon(QIcon(icon));
+        a->setIcon(deferredIcon(icon));
     connect(a, &QAction::triggered, this, [this, action = r.action] { m_session.trigger(action); });
     m_commands.insert(r.action, a);
     m_actions.insert(id, a);
@@ -160,7 +161,7 @@ void ControlBindingView::create(int id) {
         a->setObjectName(r.objectName());
         a->setSeparator(separator);
         if (const QString icon = iconPath(r); !icon.isEmpty())
-            a->setIcon(QIcon(icon));
+            a->setIcon(deferredIcon(icon));
         // A second entry of a command (Tools, Submit) runs the command's action.
         if (QAction* shared = command(r.action))
             connect(a, &QAction::triggered, shared, &QAction::trigger);
@@ -185,7 +186,7 @@ void ControlBindingView::create(int id) {
     m_widgets.insert(id, w);
     m_idOf.insert(w, id);
     if (auto* b = qobject_cast<QAbstractButton*>(w); b && !iconPath(r).isEmpty()) {
-        b->setIcon(QIcon(iconPath(r)));
+        b->setIcon(deferredIcon(iconPath(r)));
         // A picture button shows its down picture while it is held.
         if (const QString down = iconPath(r, true); down != iconPath(r)) {
             connect(b, &QAbstractButton::pressed, b, [b, down] { b->setIcon(QIcon(down)); });

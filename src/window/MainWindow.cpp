@@ -47,7 +47,6 @@ MainWindow::MainWindow(EditingSession& session, QWidget* parent)
     , m_session(session)
     , m_http(std::make_unique<HttpTransfer>()) {
     setObjectName(QStringLiteral("frmStart"));
-    setWindowIcon(QIcon(QStringLiteral(":/icons/brevaro.svg")));
     m_view = new ControlBindingView(session, this);
     m_banners = new BannerRotation(session.store().home(), session.prompts(), *m_http, this);
 
@@ -119,6 +118,9 @@ void MainWindow::completePages() {
     if (m_pagesComplete)
         return;
     m_pagesComplete = true;
+    // The desktop draws the window's icon in its task list, in four sizes: after the window's
+    // own first picture, not before it.
+    setWindowIcon(QIcon(QStringLiteral(":/icons/brevaro.svg")));
     buildFirstTab();
     m_view->completeWidgets();
     QList<QWidget*> pages = {new ProgramTabWidget(*m_view), new DescriptionsTabWidget(*m_view),
