@@ -3,6 +3,7 @@
 #include "store/AppHome.h"
 #include "store/HomeLock.h"
 #include "store/RecordStore.h"
+#include "window/DeferredIcon.h"
 #include "window/MainWindow.h"
 #include "window/SubmissionPluginLoader.h"
 #include "window/WidgetPrompts.h"
@@ -57,6 +58,7 @@ int main(int argc, char* argv[]) {
     }
     prepareForSubmissionBrowser();
     QApplication app(argc, argv);
+    QApplication::setStyle(new DeferringStyle);
     describe();
     QGuiApplication::setDesktopFileName(QStringLiteral("io.github.brevaro.Brevaro"));
     QCommandLineParser parser;

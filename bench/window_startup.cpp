@@ -5,6 +5,7 @@
 #include "records/CompanyRecord.h"
 #include "session/EditingSession.h"
 #include "store/RecordStore.h"
+#include "window/DeferredIcon.h"
 #include "window/MainWindow.h"
 
 #include <QApplication>
@@ -79,6 +80,7 @@ int child(int argc, char** argv, const QString& mode, const QString& homePath) {
         window.show();
         return app.exec();
     }
+    QApplication::setStyle(new DeferringStyle); // as the program does
     RecordStore store{AppHome(homePath)};
     SilentPrompts prompts;
     EditingSession session(store, prompts);

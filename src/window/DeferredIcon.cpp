@@ -2,6 +2,9 @@
 
 #include <QIconEngine>
 #include <QPainter>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
 
 namespace brevaro {
 
@@ -9,8 +12,8 @@ namespace {
 
 class DeferredIconEngine : public QIconEngine {
 public:
-    explicit DeferredIconEngine(QString path)
-        : m_path(std::move(path)) {}
+    explicit DeferredIconEngine(std::function<QIcon()> make)
+        : m_make(std::move(make)) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
                QIcon::State state) override {
@@ -30,21 +33,22 @@ public:
     QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override {
         return icon().availableSizes(mode, state);
     }
-    QIconEngine* clone() const override { return new DeferredIconEngine(m_path); }
+    QIconEngine* clone() const override { return new DeferredIconEngine(m_make); }
     QString key() const override { return QStringLiteral("brevaro-deferred"); }
-    // Known without reading the picture: the path is one of the program's own resources.
-    bool isNull() override { return m_path.isEmpty(); }
+    // Known without reading the picture: the icons deferred are the program's own, or the
+    // style's, and are there.
+    bool isNull() override { return !m_make; }
 
 private:
     const QIcon& icon() {
         if (!m_read) {
-            m_icon = QIcon(m_path);
+            m_icon = m_make();
             m_read = true;
         }
         return m_icon;
     }
 
-    QString m_path;
+    std::function<QIcon()> m_make;
     QIcon m_icon;
     bool m_read = false;
 };
@@ -52,7 +56,18 @@ private:
 } // namespace
 
 QIcon deferredIcon(const QString& path) {
-    return QIcon(new DeferredIconEngine(path));
+    return QIcon(new DeferredIconEngine([path] { return QIcon(path); }));
+}
+
+QIcon DeferringStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                   const QWidget* widget) const {
+    // An option says how to draw this once (its direction, its state): that icon is made now.
+    if (option)
+        return QProxyStyle::standardIcon(icon, option, widget);
+    return QIcon(new DeferredIconEngine([style = QPointer<QStyle>(baseStyle()), icon,
+                                         widget = QPointer<QWidget>(const_cast<QWidget*>(widget))] {
+        return style ? style->standardIcon(icon, nullptr, widget) : QIcon();
+    }));
 }
 
 } // namespace brevaro

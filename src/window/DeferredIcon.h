@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QIcon>
+#include <QProxyStyle>
 #include <QString>
 
 namespace brevaro {
@@ -10,5 +11,15 @@ namespace brevaro {
 // when it is drawn: the commands' pictures (most of them shown only in a menu) would cost the
 // window's start a few milliseconds for nothing.
 QIcon deferredIcon(const QString& path);
+
+// The application's style, with its own icons deferred too: the menu bar's overflow button
+// reads its picture when the bar is made, and the first picture read loads every picture
+// format Qt has, which the window's start has no use for.
+class DeferringStyle : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option = nullptr,
+                       const QWidget* widget = nullptr) const override;
+};
 
 } // namespace brevaro

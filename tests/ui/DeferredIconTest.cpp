@@ -39,3 +39,15 @@ TEST(DeferredIcon, DrawsAsTheIconItStandsFor) {
     // A picture that is not there draws nothing, as an icon of it would.
     EXPECT_TRUE(deferredIcon(u":/icons/none.svg"_s).pixmap(16, 16).isNull());
 }
+
+// The style's own icons, deferred, draw as the style draws them.
+TEST(DeferredIcon, TheStyleIconsDrawAsTheStyleDrawsThem) {
+    DeferringStyle style;
+    for (const QStyle::StandardPixmap icon :
+         {QStyle::SP_ToolBarHorizontalExtensionButton, QStyle::SP_MessageBoxWarning,
+          QStyle::SP_DialogOkButton, QStyle::SP_ArrowRight})
+        for (const int side : {16, 32})
+            EXPECT_EQ(style.standardIcon(icon).pixmap(side, side).toImage(),
+                      style.baseStyle()->standardIcon(icon).pixmap(side, side).toImage())
+                << static_cast<int>(icon);
+}
