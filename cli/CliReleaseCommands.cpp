@@ -2,6 +2,7 @@
 
 #include "platform/FileHelpers.h"
 #include "platform/StringHelpers.h"
+#include "platform/Threads.h"
 #include "release/OnlineCheck.h"
 #include "release/ReleaseOutputs.h"
 #include "release/ReleaseStep.h"
@@ -60,7 +61,7 @@ struct HashedFiles {
 
 // Reads every file of the input for its size and hash on another thread.
 std::future<HashedFiles> hashFiles(const ReleaseInput& input) {
-    return std::async(std::launch::async, [named = input.files] {
+    return std::async(kThreadOrHere, [named = input.files] {
         HashedFiles out;
         for (const DistributionFile& f : named) {
             DistributionFile file;
@@ -133,9 +134,8 @@ int releaseCommand(CliContext& ctx, const QStringList& words) {
     for (const QString& note : plan.notes)
         ctx.print(QStringLiteral("note: %1\n").arg(note));
     // The outputs are made from copies of the records while the save waits for the disk.
-    std::future<std::vector<Output>> building =
-        std::async(std::launch::async, buildAllOutputs, s.company(), plan.program,
-                   s.text(u"lblOrganization", 0));
+    std::future<std::vector<Output>> building = std::async(
+        kThreadOrHere, buildAllOutputs, s.company(), plan.program, s.text(u"lblOrganization", 0));
     if (!dryRun && !plan.changes.empty())
         saveReleased(ctx, plan.program);
     const std::vector<Output> outputs = building.get();

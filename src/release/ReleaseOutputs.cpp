@@ -6,6 +6,7 @@
 #include "pad/WebInfo.h"
 #include "platform/FileHelpers.h"
 #include "platform/FileNames.h"
+#include "platform/Threads.h"
 #include "platform/Win1252.h"
 #include "release/AppStreamWriter.h"
 #include "release/JsonLdWriter.h"
@@ -133,7 +134,7 @@ std::vector<Output> buildAllOutputs(const CompanyRecord& company, const ProgramR
     // The outputs do not depend on each other: each is made on a thread of its own.
     std::vector<std::future<Output>> making;
     for (const FormatName& f : kFormats)
-        making.push_back(std::async(std::launch::async, buildOutput, f.format, std::cref(company),
+        making.push_back(std::async(kThreadOrHere, buildOutput, f.format, std::cref(company),
                                     std::cref(program), std::cref(aspSite)));
     std::vector<Output> outputs;
     for (std::future<Output>& m : making)
@@ -161,14 +162,20 @@ bool writeOutputFiles(const QString& folder, const std::vector<Output>& outputs,
             if (!same)
                 changed.push_back({path, &file.bytes, {}});
         }
-    if (!writeFilesAtomically(changed)) {
+    const bool ok = writeFilesAtomically(changed);
+    // Every file that was written or already right is listed, also when another one failed.
+    auto result = changed.begin();
+    for (const WrittenFile& f : files) {
+        const bool failed = f.changed && !(result++)->error.isEmpty();
+        if (!failed)
+            written->push_back(f);
+    }
+    if (!ok) {
         const auto failed = std::find_if(changed.begin(), changed.end(),
                                          [](const FileToWrite& f) { return !f.error.isEmpty(); });
         *error = QStringLiteral("%1 cannot be written: %2").arg(failed->path, failed->error);
-        return false;
     }
-    written->insert(written->end(), files.begin(), files.end());
-    return true;
+    return ok;
 }
 
 QString programOutputFolder(const QString& padFolder, const CompanyRecord& company) {

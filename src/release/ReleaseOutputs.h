@@ -45,7 +45,7 @@ struct WrittenFile {
 
 // Writes the files into folder (made when missing), each replaced whole and only when its bytes
 // differ; false with a plain reason for the first that cannot be written (the others are
-// written all the same).
+// written all the same, and listed in written).
 bool writeOutputFiles(const QString& folder, const std::vector<Output>& outputs,
                       std::vector<WrittenFile>* written, QString* error);
 

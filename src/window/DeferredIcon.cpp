@@ -61,8 +61,12 @@ QIcon deferredIcon(const QString& path) {
 
 QIcon DeferringStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
                                    const QWidget* widget) const {
-    // An option says how to draw this once (its direction, its state): that icon is made now.
-    if (option)
+    // Only the overflow buttons' pictures, which the style always has (a deferred icon cannot
+    // say it is empty before it is read); and an option says how to draw this once (its
+    // direction, its state): that icon is made now.
+    const bool overflow =
+        icon == SP_ToolBarHorizontalExtensionButton || icon == SP_ToolBarVerticalExtensionButton;
+    if (!overflow || option)
         return QProxyStyle::standardIcon(icon, option, widget);
     return QIcon(new DeferredIconEngine([style = QPointer<QStyle>(baseStyle()), icon,
                                          widget = QPointer<QWidget>(const_cast<QWidget*>(widget))] {

@@ -12,9 +12,9 @@ namespace brevaro {
 // window's start a few milliseconds for nothing.
 QIcon deferredIcon(const QString& path);
 
-// The application's style, with its own icons deferred too: the menu bar's overflow button
-// reads its picture when the bar is made, and the first picture read loads every picture
-// format Qt has, which the window's start has no use for.
+// The application's style, with the pictures of its overflow buttons deferred: a menu bar
+// makes its overflow button, and reads its picture, when the bar is made, and the first
+// picture read loads every picture format Qt has, which the window's start has no use for.
 class DeferringStyle : public QProxyStyle {
 public:
     using QProxyStyle::QProxyStyle;

@@ -4,6 +4,8 @@
 #include "release/ReleaseStep.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -233,6 +235,18 @@ TEST(ReleaseOutputs, WritesOnlyWhatChanged) {
     EXPECT_FALSE(
         writeOutputFiles(dir.filePath(QStringLiteral("file/out")), outputs, &none, &error));
     EXPECT_TRUE(error.contains(u"cannot be made")) << error.toStdString();
+    // A folder in the way of one file: that one is named, the others are written and listed.
+    const QString out = dir.filePath(QStringLiteral("blocked"));
+    const QString blocked = QDir(out).filePath(outputs[2].files.front().fileName);
+    ASSERT_TRUE(QDir().mkpath(blocked));
+    std::vector<WrittenFile> some;
+    EXPECT_FALSE(writeOutputFiles(out, outputs, &some, &error));
+    EXPECT_TRUE(error.contains(outputs[2].files.front().fileName)) << error.toStdString();
+    EXPECT_EQ(some.size(), 7u);
+    for (const WrittenFile& w : some) {
+        EXPECT_NE(w.path, QDir::toNativeSeparators(blocked));
+        EXPECT_TRUE(QFileInfo(w.path).isFile()) << w.path.toStdString();
+    }
 }
 
 } // namespace

@@ -40,14 +40,17 @@ TEST(DeferredIcon, DrawsAsTheIconItStandsFor) {
     EXPECT_TRUE(deferredIcon(u":/icons/none.svg"_s).pixmap(16, 16).isNull());
 }
 
-// The style's own icons, deferred, draw as the style draws them.
+// The style's icons, deferred or not, draw as the style draws them; an icon the style does
+// not have stays empty.
 TEST(DeferredIcon, TheStyleIconsDrawAsTheStyleDrawsThem) {
     DeferringStyle style;
     for (const QStyle::StandardPixmap icon :
-         {QStyle::SP_ToolBarHorizontalExtensionButton, QStyle::SP_MessageBoxWarning,
-          QStyle::SP_DialogOkButton, QStyle::SP_ArrowRight})
+         {QStyle::SP_ToolBarHorizontalExtensionButton, QStyle::SP_ToolBarVerticalExtensionButton,
+          QStyle::SP_MessageBoxWarning, QStyle::SP_DialogOkButton, QStyle::SP_ArrowRight})
         for (const int side : {16, 32})
             EXPECT_EQ(style.standardIcon(icon).pixmap(side, side).toImage(),
                       style.baseStyle()->standardIcon(icon).pixmap(side, side).toImage())
                 << static_cast<int>(icon);
+    EXPECT_EQ(style.standardIcon(QStyle::SP_CustomBase).isNull(),
+              style.baseStyle()->standardIcon(QStyle::SP_CustomBase).isNull());
 }
