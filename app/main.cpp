@@ -1,4 +1,5 @@
 #include "AppVersion.h"
+#include "platform/FontWarmUp.h"
 #include "session/EditingSession.h"
 #include "store/AppHome.h"
 #include "store/HomeLock.h"
@@ -56,6 +57,8 @@ int main(int argc, char* argv[]) {
             return 0;
         }
     }
+    // Read while the application connects to the display and opens the data.
+    FontWarmUp fonts;
     prepareForSubmissionBrowser();
     QApplication app(argc, argv);
     QApplication::setStyle(new DeferringStyle);
@@ -81,6 +84,7 @@ int main(int argc, char* argv[]) {
     RecordStore store(home);
     WidgetPrompts prompts;
     EditingSession session(store, prompts);
+    fonts.wait();
     MainWindow window(session);
     prompts.setParentWindow(&window);
     // What a crash left behind is cleared before anything reads the files (start-up says

@@ -49,12 +49,18 @@ TableBuilder& TableBuilder::add(const char* name, K kind, int index) {
 }
 
 TableBuilder& TableBuilder::add(const QString& name, K kind) {
+    // The window has some 350 controls: room for them at once, not by doubling.
+    if (m_rows.empty()) {
+        m_rows.reserve(512);
+        m_markSet.reserve(512);
+        m_placed.reserve(512);
+    }
     ControlRow r;
     r.name = name;
     r.index = -1;
     r.kind = kind;
     r.widget = defaultWidget(kind);
-    m_rows.push_back(r);
+    m_rows.push_back(std::move(r));
     m_markSet.push_back(false);
     m_placed.push_back(kUnplaced);
     return *this;

@@ -1,6 +1,7 @@
 #include "window/FirstStartWidget.h"
 
 #include "window/ControlBindingView.h"
+#include "window/ParagraphLabel.h"
 
 #include <QAction>
 #include <QHBoxLayout>
@@ -39,14 +40,13 @@ FirstStartWidget::FirstStartWidget(ControlBindingView& view, QWidget* parent)
     big.setPointSizeF(big.pointSizeF() * 1.4);
     big.setBold(true);
     title->setFont(big);
-    auto* text = new QLabel(
+    auto* text = new ParagraphLabel(
         QStringLiteral("Brevaro keeps your company and your programs and writes their PAD "
                        "files.\n\nStart with your company: press New Company and enter its "
                        "name (or your own name if you publish as a private author).\n\nIf you "
                        "already have a PAD file, import it instead: its company and its program "
                        "are created for you."));
     text->setObjectName(QStringLiteral("lblFirstStart"));
-    text->setWordWrap(true);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(commandButton(view, ControlAction::NewCompany,
                                      QStringLiteral("Create your &company"), "cmdFirstCompany"));

@@ -34,7 +34,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScrollArea>
-#include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTimer>
@@ -61,24 +60,22 @@ MainWindow::MainWindow(EditingSession& session, QWidget* parent)
     column->addWidget(m_strip);
     auto* middle = new QHBoxLayout;
     middle->addWidget(new ButtonBarWidget(*m_view, used));
-    // The form area: the tabs, or on a home without a company what to do first.
-    auto* forms = new QStackedWidget;
+    // The form area: the tabs, or on a home without a company what to do first. The one not
+    // wanted is hidden (a layout leaves hidden widgets out). Which one is chosen when the window
+    // shows (see setVisible): showing a page lays it out at once, at a size it would not keep.
+    auto* forms = new QWidget;
     forms->setObjectName(QStringLiteral("stkForms"));
-    QWidget* tabs = buildTabs();
-    auto* firstStart = new FirstStartWidget(*m_view);
-    forms->addWidget(tabs);
-    forms->addWidget(firstStart);
-    const int companies = session.screen().id(u"cboCompanyName");
-    auto showForms = [&session, forms, tabs, firstStart, companies] {
-        const bool none = session.screen().at(companies).items.isEmpty();
-        forms->setCurrentWidget(none ? static_cast<QWidget*>(firstStart) : tabs);
-    };
+    auto* formsLayout = new QVBoxLayout(forms);
+    formsLayout->setContentsMargins(0, 0, 0, 0);
+    m_tabsPage = buildTabs();
+    m_firstStart = new FirstStartWidget(*m_view);
+    formsLayout->addWidget(m_tabsPage);
+    formsLayout->addWidget(m_firstStart);
     connect(&session.screen(), &ScreenModel::controlChanged, forms,
-            [showForms, companies](int id, unsigned) {
-                if (id == companies)
+            [this, companies = session.screen().id(u"cboCompanyName")](int id, unsigned) {
+                if (id == companies && m_formsChosen)
                     showForms();
             });
-    showForms();
     middle->addWidget(forms, 1);
     column->addLayout(middle, 1);
     column->addWidget(buildCopyright());
@@ -96,13 +93,28 @@ MainWindow::MainWindow(EditingSession& session, QWidget* parent)
 }
 
 void MainWindow::buildFirstTab() {
-    if (m_pageAreas.front()->widget())
+    if (m_firstTabBuilt)
         return;
+    m_firstTabBuilt = true;
     m_view->createTab(0);
-    auto* page = new CompanyTabWidget(*m_view);
-    m_pageAreas.front()->setWidget(page);
-    page->show();
+    placePage(0, new CompanyTabWidget(*m_view));
     m_view->repaintAll();
+}
+
+void MainWindow::placePage(int tab, QWidget* page) {
+    // A page taller than the window scrolls instead of being squeezed. The scroll area is made
+    // with the page: nine empty ones (each with its bars) would only slow the start.
+    auto* scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidget(page);
+    auto* holder = m_tabPages[tab];
+    auto* fill = new QVBoxLayout(holder);
+    fill->setContentsMargins(0, 0, 0, 0);
+    fill->addWidget(scroll);
+    // A page already on screen does not show what it is given by itself.
+    if (holder->isVisible())
+        scroll->show();
 }
 
 bool MainWindow::event(QEvent* event) {
@@ -130,11 +142,8 @@ void MainWindow::completePages() {
     // Made after the widgets, so that it goes after them (their highlighters use its checker),
     // and before they show, so that it sees them shown.
     m_spelling = new SpellingView(*m_view, homeSpellChecker(m_session.store().home()), this);
-    for (int i = 0; i < pages.size(); ++i) {
-        m_pageAreas[i + 1]->setWidget(pages[i]);
-        // A scroll area on screen does not show what it is given by itself.
-        pages[i]->show();
-    }
+    for (int i = 0; i < pages.size(); ++i)
+        placePage(i + 1, pages[i]);
     setTabOrder();
     m_view->repaintAll();
 }
@@ -168,16 +177,17 @@ void MainWindow::buildMenus() {
 QWidget* MainWindow::buildTabs() {
     auto* tabs = qobject_cast<QTabWidget*>(m_view->widget(u"SSTab1"));
     {
-        // Adding pages is not the user choosing a tab.
+        // Adding pages is not the user choosing a tab. Each page holds its tab's form once it
+        // is built (see placePage).
         const QSignalBlocker quiet(tabs);
-        for (int i = 0; i < mainTabCaptions().size(); ++i) {
-            // A page taller than the window scrolls instead of being squeezed.
-            auto* scroll = new QScrollArea;
-            scroll->setWidgetResizable(true);
-            scroll->setFrameShape(QFrame::NoFrame);
-            m_pageAreas << scroll;
-            tabs->addTab(scroll, mainTabCaptions().value(i));
+        const QStringList captions = mainTabCaptions();
+        for (int i = 0; i < captions.size(); ++i) {
+            m_tabPages << new QWidget;
+            // Titled once all are in: the bar measures every title again at each insertion.
+            tabs->addTab(m_tabPages.back(), QString());
         }
+        for (int i = 0; i < captions.size(); ++i)
+            tabs->setTabText(i, captions[i]);
     }
     // The first tab when the window shows it (see showEvent), the others once the window has
     // shown (see completePages). A tab chosen before then is built at once.
@@ -324,14 +334,33 @@ void MainWindow::setCommandHandlers() {
                                 [this] { m_banners->BannerDataDownload(); });
 }
 
+bool MainWindow::noCompany() const {
+    return m_session.screen().at(u"cboCompanyName").items.isEmpty();
+}
+
+void MainWindow::showForms() {
+    const bool none = noCompany();
+    // Hidden first, so that the two never share the area.
+    (none ? m_tabsPage : m_firstStart)->setVisible(false);
+    (none ? m_firstStart : m_tabsPage)->setVisible(true);
+}
+
+void MainWindow::setVisible(bool visible) {
+    if (visible && !m_formsChosen) {
+        m_formsChosen = true;
+        // The other page shows with the window, laid out once at its real size.
+        (noCompany() ? m_tabsPage : m_firstStart)->setVisible(false);
+    }
+    QMainWindow::setVisible(visible);
+}
+
 void MainWindow::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
     if (m_shown)
         return;
     m_shown = true;
     // The first tab is built for the first paint when the tabs show (not on a first start).
-    if (auto* forms = findChild<QStackedWidget*>(QStringLiteral("stkForms"));
-        forms && forms->currentIndex() == 0)
+    if (!noCompany())
         buildFirstTab();
     // The rotation starts once the window is on screen, so it never delays start-up.
     QTimer::singleShot(0, m_banners, [this] { m_banners->LoadLocalBannerList(); });

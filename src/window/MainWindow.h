@@ -4,8 +4,6 @@
 #include <QPointer>
 #include <memory>
 
-class QScrollArea;
-
 namespace brevaro {
 
 class BannerRotation;
@@ -36,6 +34,7 @@ public:
     // its first paint, or when one is chosen before that. True once they are.
     bool pagesComplete() const { return m_pagesComplete; }
     void completePages();
+    void setVisible(bool visible) override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -46,8 +45,11 @@ private:
     void buildMenus();
     QWidget* buildTabs();
     void buildFirstTab();
+    void placePage(int tab, QWidget* page);
     QWidget* buildCopyright();
     void setTabOrder();
+    bool noCompany() const;
+    void showForms();
     void setCommandHandlers();
     void addShortcuts();
 
@@ -56,13 +58,17 @@ private:
     std::unique_ptr<HttpTransfer> m_http;
     BannerRotation* m_banners;
     BannerStripWidget* m_strip = nullptr;
+    QWidget* m_tabsPage = nullptr;   // the tabs, shown once a company exists
+    QWidget* m_firstStart = nullptr; // what to do first, shown while none does
     SpellingView* m_spelling = nullptr;
     QPointer<PadCheckDialog> m_check;
     bool m_shutDown = false;
     bool m_shown = false;
+    bool m_formsChosen = false; // which of the two pages shows, chosen at the first show
     bool m_pagesComplete = false;
     bool m_completionPosted = false;
-    QList<QScrollArea*> m_pageAreas; // the scroll area of each tab
+    QList<QWidget*> m_tabPages; // the page of each tab
+    bool m_firstTabBuilt = false;
 };
 
 } // namespace brevaro
