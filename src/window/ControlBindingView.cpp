@@ -22,6 +22,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStatusBar>
+#include <QStringListModel>
 #include <QTabWidget>
 #include <QTextDocument>
 #include <QTimer>
@@ -364,8 +365,12 @@ void ControlBindingView::repaintValue(int id, QWidget* w, unsigned what) {
     } else if (auto* c = qobject_cast<QComboBox*>(w)) {
         const QSignalBlocker block(c);
         if (what & kChangedItems) {
-            c->clear();
-            c->addItems(s.items);
+            if (auto* strings = qobject_cast<QStringListModel*>(c->model())) {
+                strings->setStringList(s.items);
+            } else {
+                c->clear();
+                c->addItems(s.items);
+            }
         } else if (what & kItemAdded) {
             // A list filled one entry at a time grows by one entry at a time.
             c->addItem(s.items.constLast());

@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStatusBar>
+#include <QStringListModel>
 #include <QTabWidget>
 #include <QToolButton>
 
@@ -87,6 +88,9 @@ QWidget* createControlWidget(const ControlRow& r, const ControlState& s) {
     case WidgetType::EditableCombo:
     case WidgetType::ListCombo: {
         auto* c = new QComboBox;
+        // Plain strings, filled in one step: ten thousand company names as ten thousand
+        // standard items take a good part of the start.
+        c->setModel(new QStringListModel(c));
         c->setEditable(r.widget == WidgetType::EditableCombo);
         c->setInsertPolicy(QComboBox::NoInsert);
         c->setMaxVisibleItems(20);
