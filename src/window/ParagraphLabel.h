@@ -5,10 +5,10 @@
 namespace brevaro {
 
 // A paragraph of plain text that wraps to the width it is given. A wrapping QLabel works out its
-// sizes by laying its text out at several widths, each time it is asked; this one lays it out
-// once, at about sixty characters, for the size it prefers, and none for the least size it
-// needs (a short run of characters, its lines unwrapped in height). The height at the width it
-// gets is QLabel's own.
+// sizes by laying its text out at several widths, again each time it is asked (a window's first
+// layout asks seven times); this one lays it out once for each width it is asked about: at
+// about sixty characters for the size it prefers, and at the widths it gets. The least size it
+// needs takes no layout (a short run of characters, its lines unwrapped in height).
 class ParagraphLabel : public QLabel {
     Q_OBJECT
 public:
@@ -16,11 +16,16 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
 
 private:
+    // The heights found hold for the text, font and margins they were found with.
+    void forgetOutdated() const;
+    mutable QString m_measuredText;
+    mutable QFont m_measuredFont;
+    mutable QMargins m_measuredMargins;
+    mutable QList<QSize> m_heights; // width, height
     mutable QSize m_hint;
-    mutable QString m_hintText;
-    mutable QFont m_hintFont;
 };
 
 } // namespace brevaro

@@ -42,6 +42,13 @@ TEST(ParagraphLabel, AsksForTheHeightItsTextNeeds) {
     EXPECT_GT(label.sizeHint().height(), hint.height());
     EXPECT_EQ(label.sizeHint().height(), label.heightForWidth(label.sizeHint().width()));
 
+    // Wider margins: less room for the text at the same width.
+    const int before = label.heightForWidth(300);
+    label.setMargin(40);
+    EXPECT_GT(label.heightForWidth(300), before);
+    EXPECT_EQ(label.heightForWidth(300), label.QLabel::heightForWidth(300));
+    label.setMargin(0);
+
     const QSize least = label.minimumSizeHint();
     EXPECT_LT(least.width(), label.sizeHint().width());
     EXPECT_GE(least.height(), 3 * label.fontMetrics().lineSpacing());
