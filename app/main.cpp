@@ -57,9 +57,10 @@ int main(int argc, char* argv[]) {
             return 0;
         }
     }
+    // The browser's environment is set before another thread may read the environment.
+    prepareForSubmissionBrowser();
     // Read while the application connects to the display and opens the data.
     FontWarmUp fonts;
-    prepareForSubmissionBrowser();
     QApplication app(argc, argv);
     QApplication::setStyle(new DeferringStyle);
     describe();

@@ -90,7 +90,8 @@ int child(int argc, char** argv, const QString& mode, const QString& homePath) {
     RecordStore store{AppHome(homePath)};
     SilentPrompts prompts;
     EditingSession session(store, prompts);
-    fonts->wait();
+    if (fonts)
+        fonts->wait();
     MainWindow window(session);
     session.Start();
     window.installEventFilter(&watch);

@@ -340,9 +340,23 @@ bool MainWindow::noCompany() const {
 
 void MainWindow::showForms() {
     const bool none = noCompany();
-    // Hidden first, so that the two never share the area.
-    (none ? m_tabsPage : m_firstStart)->setVisible(false);
-    (none ? m_firstStart : m_tabsPage)->setVisible(true);
+    QWidget* coming = none ? m_firstStart : m_tabsPage;
+    QWidget* going = none ? m_tabsPage : m_firstStart;
+    if (coming->isVisibleTo(this) && !going->isVisibleTo(this))
+        return;
+    // The coming page shows first (the layout places the two at its next pass, so they never
+    // share the area on screen), so that focus on the going page moves into the coming one,
+    // to its first field or button, rather than on along the window.
+    coming->setVisible(true);
+    if (QWidget* focus = QApplication::focusWidget(); focus && going->isAncestorOf(focus)) {
+        for (QWidget* w = coming->nextInFocusChain(); w != coming; w = w->nextInFocusChain())
+            if (coming->isAncestorOf(w) && (w->focusPolicy() & Qt::TabFocus) &&
+                w->isVisibleTo(coming) && w->isEnabled()) {
+                w->setFocus(Qt::OtherFocusReason);
+                break;
+            }
+    }
+    going->setVisible(false);
 }
 
 void MainWindow::setVisible(bool visible) {

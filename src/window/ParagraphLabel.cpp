@@ -1,5 +1,8 @@
 #include "window/ParagraphLabel.h"
 
+#include <QRegularExpression>
+#include <algorithm>
+
 namespace brevaro {
 
 namespace {
@@ -23,6 +26,7 @@ void ParagraphLabel::forgetOutdated() const {
         m_measuredMargins = margins;
         m_heights.clear();
         m_hint = QSize();
+        m_longestWord = -1;
     }
 }
 
@@ -50,10 +54,19 @@ QSize ParagraphLabel::sizeHint() const {
 }
 
 QSize ParagraphLabel::minimumSizeHint() const {
+    forgetOutdated();
     const QMargins m = contentsMargins();
     const QFontMetrics fm = fontMetrics();
+    if (m_longestWord < 0) {
+        // No line can be narrower than its longest word (an address, say).
+        m_longestWord = 0;
+        for (const QString& word :
+             text().split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts))
+            m_longestWord = std::max(m_longestWord, fm.horizontalAdvance(word));
+    }
     const int lines = int(text().count(u'\n')) + 1;
-    return {fm.averageCharWidth() * kLeastCharacters + m.left() + m.right() + 2 * margin(),
+    return {std::max(fm.averageCharWidth() * kLeastCharacters, m_longestWord) + m.left() +
+                m.right() + 2 * margin(),
             fm.lineSpacing() * lines + m.top() + m.bottom() + 2 * margin()};
 }
 

@@ -8,7 +8,8 @@ namespace brevaro {
 // sizes by laying its text out at several widths, again each time it is asked (a window's first
 // layout asks seven times); this one lays it out once for each width it is asked about: at
 // about sixty characters for the size it prefers, and at the widths it gets. The least size it
-// needs takes no layout (a short run of characters, its lines unwrapped in height).
+// needs takes no layout: its longest word or a short run of characters wide, its lines
+// unwrapped high.
 class ParagraphLabel : public QLabel {
     Q_OBJECT
 public:
@@ -26,6 +27,7 @@ private:
     mutable QMargins m_measuredMargins;
     mutable QList<QSize> m_heights; // width, height
     mutable QSize m_hint;
+    mutable int m_longestWord = -1;
 };
 
 } // namespace brevaro

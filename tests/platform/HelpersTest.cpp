@@ -1,6 +1,5 @@
 #include "platform/DayNumbers.h"
 #include "platform/FileHelpers.h"
-#include "platform/FontWarmUp.h"
 #include "platform/StringHelpers.h"
 #include "platform/Win1252.h"
 
@@ -24,17 +23,6 @@ TEST(StringHelpers, FindFromAndEscapeControls) {
     EXPECT_EQ(findFrom(1, u"abc", u""), 0);
     EXPECT_EQ(escapeControls(u"a\nb\tc\rd\x1b[0m\\ \u0085 \u00e9"),
               u"a\\nb\\tc\\rd\\x1b[0m\\\\ \\x85 \u00e9"_s);
-}
-
-// The font warm-up's thread ends with it, whether it was waited for, waited for twice or never.
-TEST(FontWarmUp, EndsWithOrWithoutAWait) {
-    {
-        FontWarmUp fonts;
-        fonts.wait();
-        fonts.wait();
-    }
-    { FontWarmUp fonts; }
-    SUCCEED();
 }
 
 TEST(DayNumbers, DifferencesAndForms) {

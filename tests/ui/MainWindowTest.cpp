@@ -361,7 +361,8 @@ TEST_F(MainWindowTest, EveryTabIsVisibleAndNothingOverlapsAtAnySize) {
         }
     }
     chooseTab(1);
-    auto* programPage = tabs()->widget(1)->findChild<QScrollArea*>();
+    auto* programPage =
+        tabs()->widget(1)->findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly);
     ASSERT_TRUE(programPage);
     EXPECT_EQ(programPage->verticalScrollBar()->maximum(), 0);
     auto* program = qobject_cast<ProgramTabWidget*>(programPage->widget());
@@ -495,6 +496,51 @@ TEST_F(MainWindowTest, AFirstStartGuidesToTheFirstCompany) {
     EXPECT_TRUE(tabs()->isVisible());
     EXPECT_EQ(find<QComboBox>(QStringLiteral("cboCompanyName"))->currentText(),
               QStringLiteral("Northwind Tools"));
+}
+
+// A home with a company opens on its tabs, built and laid out, each page in a scroll area of its
+// own; deleting the last company brings the first start back, with the focus moved from the
+// field that had it to the first start's first button.
+TEST_F(MainWindowTest, TheTabsOrTheFirstStartShowAsCompaniesComeAndGo) {
+    newRecords(QStringLiteral("Acme"));
+    open();
+    auto* firstStart = find<QWidget>(QStringLiteral("frmFirstStart"));
+    EXPECT_FALSE(firstStart->isVisible());
+    EXPECT_TRUE(tabs()->isVisible());
+    QWidget* city = find(QStringLiteral("txtCity"));
+    EXPECT_TRUE(city->isVisible());
+    for (int i = 0; i < tabs()->count(); ++i)
+        EXPECT_EQ(tabs()->widget(i)->findChildren<QScrollArea*>(Qt::FindDirectChildrenOnly).size(),
+                  1)
+            << i;
+    city->setFocus();
+    ASSERT_EQ(QApplication::focusWidget(), city);
+    prompts.yesNo.push_back(true);
+    button(ControlAction::DeleteCompany)->click();
+    EXPECT_TRUE(firstStart->isVisible());
+    EXPECT_FALSE(tabs()->isVisible());
+    EXPECT_EQ(QApplication::focusWidget(), find(QStringLiteral("cmdFirstCompany")));
+}
+
+// A tab chosen before the window first shows is the tab it shows, and every tab is built once.
+TEST_F(MainWindowTest, ATabChosenBeforeTheWindowShowsIsTheOneShown) {
+    newRecords(QStringLiteral("Acme"), QStringLiteral("Widget"));
+    clickButton(ControlAction::SaveProgram);
+    window.reset();
+    session = std::make_unique<EditingSession>(store, prompts);
+    window = std::make_unique<MainWindow>(*session);
+    session->Start();
+    tabs()->setCurrentIndex(2);
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window->pagesComplete(); }, 5000));
+    EXPECT_EQ(tabs()->currentIndex(), 2);
+    EXPECT_TRUE(tabs()->widget(2)->findChild<QScrollArea*>()->isVisible());
+    EXPECT_TRUE(find(QStringLiteral("txt45char_0"))->isVisible());
+    for (int i = 0; i < tabs()->count(); ++i)
+        EXPECT_EQ(tabs()->widget(i)->findChildren<QScrollArea*>(Qt::FindDirectChildrenOnly).size(),
+                  1)
+            << i;
 }
 
 // The keyboard: Ctrl+S saves the record the shown tab holds, a command's new text in a box is
