@@ -13,6 +13,13 @@ LinkLabelWidget::LinkLabelWidget(const QString& text, QWidget* parent)
     setHovered(false);
 }
 
+void LinkLabelWidget::setText(const QString& text) {
+    const Qt::FocusPolicy policy = focusPolicy();
+    setFocusPolicy(Qt::NoFocus);
+    QLabel::setText(text);
+    setFocusPolicy(policy);
+}
+
 void LinkLabelWidget::setPointSize(int points) {
     QFont f = font();
     f.setPointSize(points);

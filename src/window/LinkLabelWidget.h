@@ -11,6 +11,10 @@ class LinkLabelWidget : public QLabel {
 public:
     explicit LinkLabelWidget(const QString& text = {}, QWidget* parent = nullptr);
 
+    // Shows text. A label that takes the focus keeps a rich-text document for its text, made
+    // anew at each text, though a plain line draws the same without one: the text is set as
+    // on a label that takes no focus, and the document is made only when the focus comes.
+    void setText(const QString& text);
     // The point size of the label's font (the copyright line is small, the organisations'
     // addresses large).
     void setPointSize(int points);

@@ -400,6 +400,11 @@ TEST_F(MainWindowTest, HelpMenuAndLinksOpenTheirPages) {
     EXPECT_EQ(prompts.opened[1], organization->text());
     QTest::mouseMove(organization);
     EXPECT_TRUE(organization->isHovered());
+    // The links keep taking the focus (Tab reaches them) once their texts are set.
+    auto* copyright = find<LinkLabelWidget>(QStringLiteral("lblCopyright"));
+    EXPECT_TRUE(copyright->text().startsWith(QStringLiteral("Copyright")));
+    for (LinkLabelWidget* link : {organization, copyright})
+        EXPECT_EQ(link->focusPolicy(), Qt::StrongFocus) << link->objectName().toStdString();
 }
 
 // Tools, Check PAD lists what the screen holds now; activating a finding takes the user to
