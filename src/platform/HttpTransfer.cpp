@@ -172,7 +172,6 @@ void decodePageInParts(QByteArrayView bytes, const QString& headerCharset,
 
 HttpTransfer::HttpTransfer(QObject* parent)
     : QObject(parent)
-    , m_manager(new QNetworkAccessManager(this))
     , m_idle(new QTimer(this)) {
     m_idle->setSingleShot(true);
     connect(m_idle, &QTimer::timeout, this, [this] {
@@ -223,6 +222,10 @@ void HttpTransfer::fetch() {
                          QNetworkRequest::NoLessSafeRedirectPolicy);
     request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("Brevaro"));
     QEventLoop loop;
+    // Made at the first transfer: the window holds a transfer from its start, and most starts
+    // transfer nothing before the window is on screen.
+    if (!m_manager)
+        m_manager = new QNetworkAccessManager(this);
     m_reply = m_manager->get(request);
     connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpTransfer::onHeaders);
     connect(m_reply, &QNetworkReply::readyRead, this, &HttpTransfer::onData);

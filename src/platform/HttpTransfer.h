@@ -58,7 +58,7 @@ private:
     void onFinished();
     void fail(const QString& why);
 
-    QNetworkAccessManager* m_manager;
+    QNetworkAccessManager* m_manager = nullptr;
     QTimer* m_idle;
     QNetworkReply* m_reply = nullptr;
     std::unique_ptr<QSaveFile> m_file;
