@@ -25,7 +25,6 @@ void ParagraphLabel::forgetOutdated() const {
         m_measuredFont = font();
         m_measuredMargins = margins;
         m_heights.clear();
-        m_hint = QSize();
         m_longestWord = -1;
     }
 }
@@ -43,19 +42,18 @@ int ParagraphLabel::heightForWidth(int width) const {
     return height;
 }
 
-QSize ParagraphLabel::sizeHint() const {
-    forgetOutdated();
+int ParagraphLabel::sideMargins() const {
     const QMargins m = contentsMargins();
-    const int width = fontMetrics().averageCharWidth() * kPreferredCharacters + m.left() +
-                      m.right() + 2 * margin();
-    if (m_hint.width() != width)
-        m_hint = QSize(width, heightForWidth(width));
-    return m_hint;
+    return m.left() + m.right() + 2 * margin();
+}
+
+QSize ParagraphLabel::sizeHint() const {
+    const int width = fontMetrics().averageCharWidth() * kPreferredCharacters + sideMargins();
+    return {width, heightForWidth(width)};
 }
 
 QSize ParagraphLabel::minimumSizeHint() const {
     forgetOutdated();
-    const QMargins m = contentsMargins();
     const QFontMetrics fm = fontMetrics();
     if (m_longestWord < 0) {
         // No line can be narrower than its longest word (an address, say).
@@ -64,9 +62,9 @@ QSize ParagraphLabel::minimumSizeHint() const {
              text().split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts))
             m_longestWord = std::max(m_longestWord, fm.horizontalAdvance(word));
     }
+    const QMargins m = contentsMargins();
     const int lines = int(text().count(u'\n')) + 1;
-    return {std::max(fm.averageCharWidth() * kLeastCharacters, m_longestWord) + m.left() +
-                m.right() + 2 * margin(),
+    return {std::max(fm.averageCharWidth() * kLeastCharacters, m_longestWord) + sideMargins(),
             fm.lineSpacing() * lines + m.top() + m.bottom() + 2 * margin()};
 }
 

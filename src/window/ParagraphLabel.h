@@ -22,11 +22,11 @@ public:
 private:
     // The heights found hold for the text, font and margins they were found with.
     void forgetOutdated() const;
+    int sideMargins() const;
     mutable QString m_measuredText;
     mutable QFont m_measuredFont;
     mutable QMargins m_measuredMargins;
     mutable QList<QSize> m_heights; // width, height
-    mutable QSize m_hint;
     mutable int m_longestWord = -1;
 };
 
