@@ -1,6 +1,7 @@
 // Start-up of the main window against a bare Qt window, each in a fresh process: the time from
-// main() to the window's first paint and the resident memory once idle, with an empty home and
-// with 10,000 companies. Run: build/bin/window_startup [runs]  (under xvfb-run or offscreen).
+// main() to the window's first paint and the resident memory once idle, with an empty home, one
+// company and 10,000 companies. Run: build/bin/window_startup [runs]  (under xvfb-run or
+// offscreen).
 #include "platform/FontWarmUp.h"
 #include "platform/SilentPrompts.h"
 #include "records/CompanyRecord.h"
@@ -124,9 +125,21 @@ int main(int argc, char** argv) {
         return child(argc, argv, QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]));
     QCoreApplication app(argc, argv);
     const int runs = argc > 1 ? std::max(1, atoi(argv[1])) : 5;
-    QTemporaryDir empty, big;
+    QTemporaryDir empty, one, big;
     AppHome(empty.path()).createFolders();
+    AppHome(one.path()).createFolders();
     AppHome(big.path()).createFolders();
+    {
+        // What an author most often opens: one company, shown on its tab.
+        RecordStore store{AppHome(one.path())};
+        CompanyRecord company;
+        company.setText(CompanyField::CompanyName, QStringLiteral("Northwind Software"));
+        company.setNumber(CompanyField::CompanyID, 1);
+        if (!store.writeCompany(1, company)) {
+            std::fprintf(stderr, "could not write the company\n");
+            return 1;
+        }
+    }
     {
         RecordStore store{AppHome(big.path())};
         store.beginBatch();
@@ -148,6 +161,7 @@ int main(int argc, char** argv) {
         {"bare QMainWindow", {QStringLiteral("bare"), QStringLiteral("-")}},
         {"bare window, one combo box", {QStringLiteral("combo"), QStringLiteral("-")}},
         {"Brevaro, empty home", {QStringLiteral("main"), empty.path()}},
+        {"Brevaro, one company", {QStringLiteral("main"), one.path()}},
         {"Brevaro, 10,000 companies", {QStringLiteral("main"), big.path()}}};
     std::vector<std::vector<Sample>> samples(windows.size());
     for (int i = 0; i < runs; ++i)

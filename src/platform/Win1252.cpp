@@ -38,14 +38,15 @@ char toWin1252Char(QChar c) {
 }
 
 QByteArray toWin1252(QStringView text) {
-    QByteArray out;
-    out.reserve(text.size());
+    QByteArray out(text.size(), Qt::Uninitialized);
+    char* end = out.data();
     for (qsizetype i = 0; i < text.size(); ++i) {
         // A character outside the basic plane (a surrogate pair) is one character: one '?'.
         if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
             ++i;
-        out += toWin1252Char(text[i]);
+        *end++ = toWin1252Char(text[i]);
     }
+    out.truncate(end - out.constData());
     return out;
 }
 

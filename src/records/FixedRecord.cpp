@@ -61,7 +61,17 @@ QString FixedRecord::rawText(int field, int index) const {
 }
 
 QString FixedRecord::text(int field, int index) const {
-    return trimBlanks(rawText(field, index));
+    // Trimmed before it is decoded (a blank is one byte and no other byte reads as one): most
+    // of a wide field is blanks.
+    const RecordField& f = fieldAt(field);
+    checkEntry(f, index, true);
+    const char* begin = m_bytes.constData() + f.entryOffset(index);
+    const char* end = begin + f.width;
+    while (begin < end && *begin == ' ')
+        ++begin;
+    while (end > begin && end[-1] == ' ')
+        --end;
+    return fromWin1252(begin, end - begin);
 }
 
 // What a field of f's width holds of value, trimmed.
@@ -94,12 +104,18 @@ void FixedRecord::setText(int field, QStringView value, int index) {
         if (!substituted)
             return;
     }
-    const QString held = trimBlanks(fromWin1252(dst, f.width));
+    const QString held = text(field, index);
     const QString typed = trimBlanks(value);
-    const auto whole = m_whole.find(wholeKey(f, index));
     if (typed != held)
         m_whole.insert(wholeKey(f, index), typed);
-    else if (whole != m_whole.end() && (*whole == typed || heldForm(f, *whole) != held))
+    else
+        dropStaleWhole(f, index, held);
+}
+
+void FixedRecord::dropStaleWhole(const RecordField& f, int index, const QString& held) {
+    // A whole text equal to what is held, or one the record no longer holds the start of.
+    const auto whole = m_whole.find(wholeKey(f, index));
+    if (whole != m_whole.end() && (*whole == held || heldForm(f, *whole) != held))
         m_whole.erase(whole);
 }
 
@@ -107,6 +123,8 @@ QString FixedRecord::wholeText(int field, int index) const {
     const RecordField& f = fieldAt(field);
     checkEntry(f, index, true);
     const QString held = text(field, index);
+    if (m_whole.isEmpty())
+        return held;
     const auto whole = m_whole.constFind(wholeKey(f, index));
     return whole != m_whole.cend() && heldForm(f, *whole) == held ? *whole : held;
 }
@@ -125,7 +143,13 @@ void FixedRecord::setExtras(Extras later, Extras whole) {
 
 QString FixedRecord::trimText(int field, int index) {
     QString value = text(field, index);
-    setText(field, value, index);
+    // A value that starts at the field's first byte is already held trimmed (the blanks after
+    // it are the field's padding): writing it back would change no byte.
+    const RecordField& f = fieldAt(field);
+    if (m_bytes.at(f.entryOffset(index)) == ' ')
+        setText(field, value, index);
+    else if (!m_whole.isEmpty())
+        dropStaleWhole(f, index, value);
     return value;
 }
 

@@ -68,6 +68,7 @@ protected:
 
 private:
     const RecordField& fieldAt(int field) const;
+    void dropStaleWhole(const RecordField& f, int index, const QString& held);
 
     const RecordLayout* m_layout;
     QByteArray m_bytes;

@@ -1,7 +1,9 @@
+#include "platform/StringHelpers.h"
 #include "platform/Win1252.h"
 #include "records/CompanyRecord.h"
 #include "records/ProgramRecord.h"
 
+#include <QRandomGenerator>
 #include <gtest/gtest.h>
 
 using namespace brevaro;
@@ -95,6 +97,40 @@ TEST(RecordBytes, TextsAreCutOrBlankPadded) {
     c.setText(CompanyField::Address1, u"  two blanks\tand tab ");
     EXPECT_EQ(c.trimText(CompanyField::Address1), u"two blanks\tand tab"_s);
     EXPECT_EQ(c.rawText(CompanyField::Address1).left(19), u"two blanks\tand tab "_s);
+}
+
+// Whatever bytes another program left in a field (blanks anywhere, every byte value), the
+// trimmed text is the raw text without its outer blanks, and trimming the field in place
+// leaves exactly that text, blank-padded, with the rest of the record untouched and no stale
+// whole text.
+TEST(RecordBytes, TrimmingMatchesTheDecodedField) {
+    QRandomGenerator random(1252);
+    const char pool[] = {' ',  ' ',    ' ',    'a',    'Z',    '?',
+                         '\t', '\x80', '\x81', '\x9f', '\xa0', '\xff'};
+    for (int round = 0; round < 400; ++round) {
+        ProgramRecord p;
+        QByteArray bytes = p.bytes();
+        const RecordField& f = programLayout().field(int(ProgramField::CharDesc450));
+        const int entry = random.bounded(f.count);
+        const int length = random.bounded(f.width + 1);
+        for (int i = 0; i < length; ++i)
+            bytes[f.entryOffset(entry) + i] = pool[random.bounded(int(sizeof pool))];
+        // Half the rounds hold a whole text from before that the new bytes no longer start.
+        if (round % 2)
+            p.setText(ProgramField::CharDesc450, QString(f.width + 9, u'w'), entry);
+        p.setBytes(bytes);
+        const QString raw = p.rawText(ProgramField::CharDesc450, entry);
+        ASSERT_EQ(p.text(ProgramField::CharDesc450, entry), trimBlanks(raw));
+
+        const QString trimmed = p.trimText(ProgramField::CharDesc450, entry);
+        EXPECT_EQ(trimmed, trimBlanks(raw));
+        QByteArray expected = bytes;
+        expected.replace(f.entryOffset(entry), f.width,
+                         toWin1252(trimmed).leftJustified(f.width, ' '));
+        ASSERT_EQ(p.bytes(), expected) << "round " << round;
+        EXPECT_EQ(p.wholeText(int(ProgramField::CharDesc450), entry), trimmed);
+        EXPECT_TRUE(p.wholeTexts().isEmpty());
+    }
 }
 
 TEST(RecordBytes, Windows1252OnDisk) {
