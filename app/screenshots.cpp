@@ -189,11 +189,18 @@ int main(int argc, char* argv[]) {
     const AppHome home(folder.path());
     home.createFolders();
     RecordStore store(home);
+    // The main window's size when one is asked for, else the size it opens at.
+    const auto sized = [&](MainWindow& window) {
+        if (argc >= 5)
+            window.resize(QString::fromLocal8Bit(argv[3]).toInt(),
+                          QString::fromLocal8Bit(argv[4]).toInt());
+    };
     bool ok = true;
     {
         EditingSession session(store, prompts);
         MainWindow window(session);
         session.Start();
+        sized(window);
         window.show();
         ok &= save(window, out, "empty");
     }
@@ -210,9 +217,7 @@ int main(int argc, char* argv[]) {
         qWarning("%s is not a PAD file", argv[2]);
         return 1;
     }
-    if (argc >= 5)
-        window.resize(QString::fromLocal8Bit(argv[3]).toInt(),
-                      QString::fromLocal8Bit(argv[4]).toInt());
+    sized(window);
     window.show();
     auto* tabs = qobject_cast<QTabWidget*>(window.view().widget(u"SSTab1"));
     const char* names[] = {"company", "program", "descriptions", "webinfo", "permissions",

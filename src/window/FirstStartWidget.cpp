@@ -36,9 +36,11 @@ FirstStartWidget::FirstStartWidget(ControlBindingView& view, QWidget* parent)
     column->setContentsMargins(24, 24, 24, 24);
     auto* title = new QLabel(QStringLiteral("Welcome to Brevaro"));
     title->setObjectName(QStringLiteral("lblFirstStartTitle"));
+    // Larger, in the regular weight: a bold face would be the only one in the window, and
+    // loading it (its file and its fallback fonts) delays the first picture by a millisecond
+    // or two.
     QFont big = title->font();
     big.setPointSizeF(big.pointSizeF() * 1.4);
-    big.setBold(true);
     title->setFont(big);
     auto* text = new ParagraphLabel(
         QStringLiteral("Brevaro keeps your company and your programs and writes their PAD "
