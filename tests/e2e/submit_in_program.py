@@ -8,6 +8,7 @@ import http.server
 import json
 import os
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -67,6 +68,18 @@ def run(cmd, **kw):
     return subprocess.run(cmd, check=True, capture_output=True, **kw)
 
 
+def end_leftovers(folder):
+    """Ends what the desktop's services started for the run and left running (the
+    accessibility bus outlives the session bus); each names the run's folder."""
+    for pid in filter(str.isdigit, os.listdir("/proc")):
+        try:
+            with open("/proc/%s/cmdline" % pid, "rb") as f:
+                if folder.encode() in f.read():
+                    os.kill(int(pid), signal.SIGTERM)
+        except OSError:
+            pass
+
+
 def main():
     brevaro, cli = sys.argv[1], sys.argv[2]
     work = tempfile.mkdtemp(prefix="brevaro-submit-")
@@ -101,6 +114,7 @@ def main():
                                     env=env, timeout=150).returncode
         finally:
             xvfb.kill()
+            end_leftovers(work)
         if status != 0:
             print("the program could not be driven (status %d)" % status)
             return 1
