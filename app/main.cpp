@@ -1,11 +1,11 @@
 #include "AppVersion.h"
-#include "platform/FontWarmUp.h"
 #include "session/EditingSession.h"
 #include "store/AppHome.h"
 #include "store/HomeLock.h"
 #include "store/RecordStore.h"
 #include "window/DeferredIcon.h"
 #include "window/MainWindow.h"
+#include "window/StartUpWarmUp.h"
 #include "window/SubmissionPluginLoader.h"
 #include "window/WidgetPrompts.h"
 
@@ -59,8 +59,6 @@ int main(int argc, char* argv[]) {
     }
     // The browser's environment is set before another thread may read the environment.
     prepareForSubmissionBrowser();
-    // Read while the application connects to the display and opens the data.
-    FontWarmUp fonts;
     QApplication app(argc, argv);
     QApplication::setStyle(new DeferringStyle);
     describe();
@@ -82,10 +80,13 @@ int main(int argc, char* argv[]) {
                            : busy);
         return 1;
     }
+    // The fonts are read on another thread while this one connects to the accessibility
+    // service and opens the data.
+    StartUpWarmUp warmUp;
     RecordStore store(home);
     WidgetPrompts prompts;
     EditingSession session(store, prompts);
-    fonts.wait();
+    warmUp.wait();
     MainWindow window(session);
     prompts.setParentWindow(&window);
     // What a crash left behind is cleared before anything reads the files (start-up says

@@ -2,13 +2,13 @@
 // main() to the window's first paint and the resident memory once idle, with an empty home, one
 // company and 10,000 companies. Run: build/bin/window_startup [runs]  (under xvfb-run or
 // offscreen).
-#include "platform/FontWarmUp.h"
 #include "platform/SilentPrompts.h"
 #include "records/CompanyRecord.h"
 #include "session/EditingSession.h"
 #include "store/RecordStore.h"
 #include "window/DeferredIcon.h"
 #include "window/MainWindow.h"
+#include "window/StartUpWarmUp.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -22,7 +22,6 @@
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
-#include <optional>
 
 using namespace brevaro;
 
@@ -62,10 +61,6 @@ private:
 int child(int argc, char** argv, const QString& mode, const QString& homePath) {
     QElapsedTimer clock;
     clock.start();
-    // As the program does, the font configuration is read while the application starts.
-    std::optional<FontWarmUp> fonts;
-    if (mode == QLatin1String("main"))
-        fonts.emplace();
     QApplication app(argc, argv);
     FirstPaint watch(clock);
     if (mode == QLatin1String("bare") || mode == QLatin1String("combo")) {
@@ -87,12 +82,13 @@ int child(int argc, char** argv, const QString& mode, const QString& homePath) {
         window.show();
         return app.exec();
     }
-    QApplication::setStyle(new DeferringStyle); // as the program does
+    // As the program does.
+    QApplication::setStyle(new DeferringStyle);
+    StartUpWarmUp warmUp;
     RecordStore store{AppHome(homePath)};
     SilentPrompts prompts;
     EditingSession session(store, prompts);
-    if (fonts)
-        fonts->wait();
+    warmUp.wait();
     MainWindow window(session);
     session.Start();
     window.installEventFilter(&watch);
