@@ -59,6 +59,7 @@ int main(int argc, char* argv[]) {
     }
     // The browser's environment is set before another thread may read the environment.
     prepareForSubmissionBrowser();
+    StartUpWarmUp warmUp;
     QApplication app(argc, argv);
     QApplication::setStyle(new DeferringStyle);
     describe();
@@ -80,9 +81,7 @@ int main(int argc, char* argv[]) {
                            : busy);
         return 1;
     }
-    // The fonts are read on another thread while this one connects to the accessibility
-    // service and opens the data.
-    StartUpWarmUp warmUp;
+    warmUp.applicationStarted();
     RecordStore store(home);
     WidgetPrompts prompts;
     EditingSession session(store, prompts);

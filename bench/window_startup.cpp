@@ -22,6 +22,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
+#include <optional>
 
 using namespace brevaro;
 
@@ -61,6 +62,10 @@ private:
 int child(int argc, char** argv, const QString& mode, const QString& homePath) {
     QElapsedTimer clock;
     clock.start();
+    // As the program does, the fonts are read while the application starts.
+    std::optional<StartUpWarmUp> warmUp;
+    if (mode == QLatin1String("main"))
+        warmUp.emplace();
     QApplication app(argc, argv);
     FirstPaint watch(clock);
     if (mode == QLatin1String("bare") || mode == QLatin1String("combo")) {
@@ -84,11 +89,11 @@ int child(int argc, char** argv, const QString& mode, const QString& homePath) {
     }
     // As the program does.
     QApplication::setStyle(new DeferringStyle);
-    StartUpWarmUp warmUp;
+    warmUp->applicationStarted();
     RecordStore store{AppHome(homePath)};
     SilentPrompts prompts;
     EditingSession session(store, prompts);
-    warmUp.wait();
+    warmUp->wait();
     MainWindow window(session);
     session.Start();
     window.installEventFilter(&watch);
