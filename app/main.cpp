@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QMessageBox>
+#include <QScopeGuard>
 #include <QTimer>
 
 using namespace brevaro;
@@ -61,6 +62,8 @@ int main(int argc, char* argv[]) {
     prepareForSubmissionBrowser();
     StartUpWarmUp warmUp;
     QApplication app(argc, argv);
+    // Its thread may use the application's fonts: it ends before the application does.
+    const auto fontsFirst = qScopeGuard([&warmUp] { warmUp.wait(); });
     QApplication::setStyle(new DeferringStyle);
     describe();
     QGuiApplication::setDesktopFileName(QStringLiteral("io.github.brevaro.Brevaro"));

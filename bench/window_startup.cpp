@@ -62,7 +62,7 @@ private:
 int child(int argc, char** argv, const QString& mode, const QString& homePath) {
     QElapsedTimer clock;
     clock.start();
-    // As the program does, the fonts are read while the application starts.
+    // As the program does (see StartUpWarmUp).
     std::optional<StartUpWarmUp> warmUp;
     if (mode == QLatin1String("main"))
         warmUp.emplace();
@@ -89,11 +89,13 @@ int child(int argc, char** argv, const QString& mode, const QString& homePath) {
     }
     // As the program does.
     QApplication::setStyle(new DeferringStyle);
-    warmUp->applicationStarted();
+    if (warmUp)
+        warmUp->applicationStarted();
     RecordStore store{AppHome(homePath)};
     SilentPrompts prompts;
     EditingSession session(store, prompts);
-    warmUp->wait();
+    if (warmUp)
+        warmUp->wait();
     MainWindow window(session);
     session.Start();
     window.installEventFilter(&watch);

@@ -40,8 +40,8 @@ void readFontConfiguration() {
 #endif
 }
 
-// With the application object: the list of fonts and the fonts that stand in for the window's
-// own are kept for every thread (the font itself is loaded again by the window's thread).
+// With the application object: the list of fonts and the styles of the window's font family are
+// shared by all threads; the font itself is loaded again by the window's thread.
 void readFonts() {
     QFontDatabase::families();
     QFontMetrics(QGuiApplication::font()).height();
@@ -82,8 +82,10 @@ StartUpWarmUp::~StartUpWarmUp() {
 }
 
 void StartUpWarmUp::applicationStarted() {
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
     if (!m_fonts.joinable())
         m_fonts = startThread(readFonts);
+#endif
     QAccessible::isActive();
 }
 

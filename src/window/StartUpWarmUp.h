@@ -4,14 +4,15 @@
 
 namespace brevaro {
 
-// Reads the desktop's fonts (their configuration, some sixty files, and their list) on another
-// thread while the first window's other slow preparations go on, so that its first text does
-// not wait for them. Which preparation it runs beside depends on the desktop:
-// - where a session bus runs, beside the application object's start (connecting to the display);
-// - where none runs, beside connecting to the accessibility service, which first starts a bus
-//   (milliseconds of waiting that the reading fills, where beside the application's start it
-//   would only compete with it for the processor).
-// Where no thread can be made, the first text reads the fonts itself.
+// Reads the desktop's fonts on another thread while the first window's other slow preparations
+// go on, so that its first text does not wait for them. What it reads, and beside what, depends
+// on the desktop:
+// - where a session bus runs, the font configuration (dozens of files), beside the application
+//   object's start (connecting to the display);
+// - where none runs, the configuration and the list of fonts, beside connecting to the
+//   accessibility service, which first starts a bus (milliseconds of waiting that the reading
+//   fills, where beside the application's start it would only compete for the processor).
+// Elsewhere than Linux, or where no thread can be made, the first text reads the fonts itself.
 class StartUpWarmUp {
 public:
     // Made before the application object.
@@ -20,9 +21,11 @@ public:
     StartUpWarmUp(const StartUpWarmUp&) = delete;
     StartUpWarmUp& operator=(const StartUpWarmUp&) = delete;
 
-    // Called once the application object exists: connects to the accessibility service.
+    // Called once the application object exists: starts the reading if the constructor did
+    // not, then connects to the accessibility service (which can wait while D-Bus starts a bus).
     void applicationStarted();
-    // Returns once the fonts have been read; build the window after it.
+    // Returns once the fonts have been read; build the window after it, and call it before the
+    // application object is destroyed.
     void wait();
 
     // Whether the fonts are read before the application object exists: a session bus runs,

@@ -2,9 +2,6 @@
 
 #include <QByteArray>
 #include <QFile>
-#include <QFontDatabase>
-#include <QFontMetrics>
-#include <QGuiApplication>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -36,6 +33,7 @@ private:
 TEST(StartUpWarmUp, ReadsBeforeTheApplicationOnlyWhereASessionBusRuns) {
 #if defined(Q_OS_LINUX)
     QTemporaryDir runtime;
+    ASSERT_TRUE(runtime.isValid());
     ScopedEnv noStartup("DESKTOP_STARTUP_ID", QByteArray());
     ScopedEnv noToken("XDG_ACTIVATION_TOKEN", QByteArray());
     ScopedEnv runtimeDir("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
@@ -57,18 +55,18 @@ TEST(StartUpWarmUp, ReadsBeforeTheApplicationOnlyWhereASessionBusRuns) {
 #endif
 }
 
-// Either way the fonts are ready once it has been waited for; waiting twice, or not at all,
-// neither blocks nor leaves the thread behind.
-TEST(StartUpWarmUp, TheFontsAreReadyAfterTheWait) {
+// On either path, waiting twice, or not at all, neither blocks nor leaves the thread behind.
+TEST(StartUpWarmUp, EndsItsThreadOnEveryPath) {
+    QTemporaryDir runtime;
+    ASSERT_TRUE(runtime.isValid());
+    ScopedEnv runtimeDir("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
     for (const QByteArray& address : {QByteArray(), QByteArray("unix:path=/nowhere/bus")}) {
         ScopedEnv bus("DBUS_SESSION_BUS_ADDRESS", address);
         StartUpWarmUp warmUp;
         warmUp.applicationStarted();
         warmUp.wait();
         warmUp.wait();
-        EXPECT_FALSE(QFontDatabase::families().isEmpty());
-        EXPECT_GT(QFontMetrics(QGuiApplication::font()).height(), 0);
+        StartUpWarmUp unwaited; // its thread ends with it
+        unwaited.applicationStarted();
     }
-    StartUpWarmUp unwaited; // its thread ends with it
-    unwaited.applicationStarted();
 }
