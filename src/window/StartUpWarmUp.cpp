@@ -1,11 +1,12 @@
 #include "window/StartUpWarmUp.h"
 
+#include "platform/Threads.h"
+
 #include <QAccessible>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QGuiApplication>
-#include <system_error>
 
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
 #include <dlfcn.h>
@@ -47,14 +48,6 @@ void readFonts() {
     QFontMetrics(QGuiApplication::font()).height();
 }
 
-template <typename Work> std::thread startThread(Work work) {
-    try {
-        return std::thread(work);
-    } catch (const std::system_error&) {
-        return {}; // no thread to spare: the first text reads the fonts
-    }
-}
-
 } // namespace
 
 bool StartUpWarmUp::readsBeforeApplication() {
@@ -74,7 +67,7 @@ bool StartUpWarmUp::readsBeforeApplication() {
 
 StartUpWarmUp::StartUpWarmUp() {
     if (readsBeforeApplication())
-        m_fonts = startThread(readFontConfiguration);
+        m_fonts = std::async(kThreadOrHere, readFontConfiguration);
 }
 
 StartUpWarmUp::~StartUpWarmUp() {
@@ -83,15 +76,15 @@ StartUpWarmUp::~StartUpWarmUp() {
 
 void StartUpWarmUp::applicationStarted() {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-    if (!m_fonts.joinable())
-        m_fonts = startThread(readFonts);
+    if (!m_fonts.valid())
+        m_fonts = std::async(kThreadOrHere, readFonts);
 #endif
     QAccessible::isActive();
 }
 
 void StartUpWarmUp::wait() {
-    if (m_fonts.joinable())
-        m_fonts.join();
+    if (m_fonts.valid())
+        m_fonts.get();
 }
 
 } // namespace brevaro

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <thread>
+#include <future>
 
 namespace brevaro {
 
@@ -12,7 +12,7 @@ namespace brevaro {
 // - where none runs, the configuration and the list of fonts, beside connecting to the
 //   accessibility service, which first starts a bus (milliseconds of waiting that the reading
 //   fills, where beside the application's start it would only compete for the processor).
-// Elsewhere than Linux, or where no thread can be made, the first text reads the fonts itself.
+// Elsewhere than Linux the first text reads the fonts; where no thread can be made, wait() does.
 class StartUpWarmUp {
 public:
     // Made before the application object.
@@ -34,7 +34,7 @@ public:
     static bool readsBeforeApplication();
 
 private:
-    std::thread m_fonts;
+    std::future<void> m_fonts;
 };
 
 } // namespace brevaro
